@@ -1,0 +1,60 @@
+#include "vxgui/base/String.h"
+
+#include "vxgui/base/Utf.h"
+
+namespace vxgui {
+namespace {
+
+// Simple case folding of the letters that define files use: ASCII, Latin-1, Latin Extended-A,
+// Greek, Cyrillic (Unicode CaseFolding.txt, status C, the regular runs).
+char16_t FoldUnit(char16_t c) {
+    if (c >= u'A' && c <= u'Z') return c + 32;
+    if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
+    if (c >= 0x100 && c <= 0x12F) return c | 1;
+    if (c >= 0x14A && c <= 0x177) return c | 1;
+    if (c >= 0x391 && c <= 0x3AB && c != 0x3A2) return c + 32;
+    if (c >= 0x410 && c <= 0x42F) return c + 32;
+    if (c >= 0x400 && c <= 0x40F) return c + 80;
+    return c;
+}
+
+}  // namespace
+
+String::String(std::string_view utf8) : units_(Utf16FromUtf8(utf8)) {}
+
+String String::FromInt(int64_t value) { return std::to_string(value); }
+
+std::string String::Utf8() const { return Utf8FromUtf16(units_); }
+
+String String::Right(size_t count) const {
+    return view().substr(count < size() ? size() - count : 0);
+}
+
+String String::Mid(size_t start, size_t count) const {
+    return start < size() ? String(view().substr(start, count)) : String();
+}
+
+String String::Trim() const {
+    const size_t first = units_.find_first_not_of(u' ');
+    if (first == npos) return {};
+    return Mid(first, units_.find_last_not_of(u' ') - first + 1);
+}
+
+String String::Lower() const {
+    std::u16string folded = units_;
+    for (char16_t& unit : folded) unit = FoldUnit(unit);
+    return folded;
+}
+
+std::vector<String> String::Split(char16_t separator) const {
+    std::vector<String> parts;
+    size_t start = 0;
+    for (size_t at = Find(separator); at != npos; at = Find(separator, start)) {
+        parts.push_back(Mid(start, at - start));
+        start = at + 1;
+    }
+    parts.push_back(Mid(start));
+    return parts;
+}
+
+}  // namespace vxgui

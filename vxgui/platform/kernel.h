@@ -1,0 +1,88 @@
+#pragma once
+
+#include <string>
+
+#include "vxgui/base/Export.h"
+#include "vxgui/base/String.h"
+#include "vxgui/platform/types.h"
+
+/// Loading modules by name, finding their exports, the message box, the process's exit, the last
+/// error and the ANSI code page.
+namespace vxgui::kernel {
+
+struct HMODULE__;
+using HMODULE = HMODULE__*;
+using FARPROC = void (*)();
+
+/// Message box styles.
+constexpr UINT MB_OK = 0x0;
+constexpr UINT MB_ICONERROR = 0x10;
+constexpr UINT MB_SETFOREGROUND = 0x10000;
+constexpr int IDOK = 1;
+
+/// Everything that the library asks of the kernel. Each call has its published meaning; a test
+/// puts an object of its own in the place of the real one.
+class VXPLATFORM_API Kernel {
+public:
+    virtual ~Kernel();
+
+    /// A module that is loaded already; the name is compared without regard to case and its
+    /// ending ".dll" may be left out. Null when there is none.
+    virtual HMODULE GetModuleHandleA(const char* name) = 0;
+    /// Built-in modules first, then files: resource-only module files and shared objects. Null
+    /// when there is none, with the reason in `GetLastError`.
+    virtual HMODULE LoadLibraryA(const char* name) = 0;
+    /// Undoes one `LoadLibraryA`. False for what is no module.
+    virtual BOOL FreeLibrary(HMODULE module) = 0;
+    /// An export by name, or by ordinal where `name` is below 0x10000. Null when there is none.
+    virtual FARPROC GetProcAddress(HMODULE module, const char* name) = 0;
+    /// The file name of a module; null stands for the library itself.
+    virtual String GetModuleFileNameA(HMODULE module) = 0;
+    /// Shows the text where a user will read it; answers the button, `IDOK`.
+    virtual int MessageBox(const String& text, const String& caption, UINT style) = 0;
+    /// Ends the process.
+    virtual void ExitProcess(UINT code) = 0;
+};
+
+/// The kernel in force.
+VXPLATFORM_API Kernel& TheKernel();
+/// Puts `kernel` in force and answers the one before; null brings back the real one. The object
+/// must outlive its use.
+VXPLATFORM_API Kernel* SetKernel(Kernel* kernel);
+/// The real kernel, for tests that change one answer and pass on the rest.
+VXPLATFORM_API Kernel& RealKernel();
+
+/// One export of a built-in module: by name, and by ordinal where it is not 0.
+struct Export {
+    const char* name;
+    uint16_t ordinal;
+    FARPROC address;
+};
+
+/// Enters a module in the table of built-in modules. `exports` ends with a null address and
+/// must live as long as the process. The same name again replaces the table.
+VXPLATFORM_API void RegisterBuiltInModule(const char* name, const Export* exports);
+
+/// The bytes of a resource of a module file, by type and name without regard to case; empty
+/// when there is none. The block belongs to the module.
+struct ResourceBlock {
+    const uint8_t* data = nullptr;
+    size_t size = 0;
+};
+VXPLATFORM_API ResourceBlock FindModuleResource(HMODULE module, const String& type,
+                                                const String& name);
+
+/// The last error of the calling thread.
+VXPLATFORM_API DWORD GetLastError();
+VXPLATFORM_API void SetLastError(DWORD code);
+
+/// The ANSI code page of the calling apartment, an iconv name; "CP1252" at first.
+VXPLATFORM_API void SetAnsiCodePage(const std::string& name);
+VXPLATFORM_API const std::string& AnsiCodePage();
+/// Conversions to and from it; what it cannot express becomes "?" or U+FFFD.
+VXPLATFORM_API std::string AnsiFromText(const String& text);
+VXPLATFORM_API String TextFromAnsi(std::string_view bytes);
+/// The same for any code page that iconv knows. False for an unknown one.
+VXPLATFORM_API bool TextFromCodePage(std::string_view bytes, const std::string& page, String* text);
+
+}  // namespace vxgui::kernel
