@@ -1,0 +1,156 @@
+#pragma once
+
+#include <cstdint>
+
+#include "vxgui/base/Object.h"
+#include "vxgui/base/Ref.h"
+#include "vxgui/base/String.h"
+#include "vxgui/base/Variant.h"
+#include "vxgui/platform/gdi_types.h"
+#include "vxgui/platform/ole.h"
+#include "vxgui/surface/NineGridRecord.h"
+
+namespace vxgui {
+
+enum AlphaDIBSectionConst : int32_t {
+    /// The colour key, a COLORREF, wherever none is given.
+    DefaultTransColor = 0xFF00FF,
+};
+
+/// The pixel container: 32 bits a pixel in plain memory, selected into a device context of its
+/// own, so that drawing calls and the software loops see the same bytes. A pixel is the bytes
+/// `Blue`, `Green`, `Red`, `Alpha`; a row is `Width` pixels without padding; the first row in
+/// memory is the bottom row of the picture. Whether colours are premultiplied is the caller's
+/// business. Booleans are false on failure; an empty surface answers 0 and draws nothing.
+///
+/// Operations are virtual, so that one object can stand in for another.
+class VXGUI_API cAlphaDIBSection : public Object {
+public:
+    /// Bits of `Flags`; a re-created surface starts from the first two set.
+    static constexpr uint32_t kUseDrawDib = 1;
+    static constexpr uint32_t kUseMsImag32 = 2;
+    static constexpr uint32_t kPremultiplied = 0x80000000;
+
+    cAlphaDIBSection();
+
+    // Properties.
+    /// True only while the apartment's DrawDib handle is open as well.
+    bool UseDrawDib() const;
+    void UseDrawDib(bool value);
+    bool UseMsImag32() const;
+    void UseMsImag32(bool value);
+    int32_t TransparentColor() const { return transparentColor_; }
+    void TransparentColor(int32_t value) { transparentColor_ = value; }
+    int32_t BytesPerScanLine() const;
+    int32_t Width() const { return header_.biWidth; }
+    int32_t Height() const { return header_.biHeight; }
+    gdi::HDC hDC() const { return hDC_; }
+    gdi::HBITMAP hDIB() const { return hDIB_; }
+    /// The first byte of the pixel memory: `Height` rows of `BytesPerScanLine` bytes.
+    void* DIBSectionBitsPtr() const { return bits_; }
+    uint32_t Flags() const { return flags_; }
+    /// A copy as a picture object; none for an empty surface.
+    Ref<ole::Picture> Picture();
+
+    // Creation. Each begins by emptying the surface, unless it says false before.
+    virtual bool Create(int32_t Width, int32_t Height);
+    /// Keeps `CompatibleDC` for all later creations.
+    virtual bool CreateWithCompatibleDC(int32_t Width, int32_t Height, gdi::HDC CompatibleDC);
+    /// Makes a bitmap of the size in the surface's header; the surface does not own it.
+    virtual bool CreateDIB(gdi::HDC lHDC, int32_t lWidth, int32_t lHeight, gdi::HBITMAP& hDIB);
+    virtual void ClearUp();
+    /// Hands the bitmap to the caller; the size and the pixel pointer stay as they were.
+    virtual gdi::HBITMAP ExtractDib();
+
+    // Loading.
+    virtual bool CreateFromPictureFile(const String& Filename);
+    virtual bool CreateFromByteArray(const ByteArray& b, bool TGAFormat = false);
+    virtual bool CreateFromPtr(const void* lpData, int32_t nSize, bool TGAFormat = false);
+    virtual bool CreateFromTGAPtr(const void* lpData, int32_t nSize);
+    virtual bool CreateFromPicture(const Ref<ole::Picture>& picThis);
+    virtual bool CreateFromHBitmap(gdi::HBITMAP hBMP);
+    /// For device bitmaps: a DIB section is refused.
+    virtual bool FromHBITMAP(gdi::HBITMAP hBMP, int32_t X = 0, int32_t Y = 0, int32_t w = -1,
+                             int32_t h = -1);
+    /// The copy starts at the bottom row of `Src`; `Y` is checked and otherwise not used.
+    virtual bool FromAlphaDIBSection(const Ref<cAlphaDIBSection>& Src, int32_t X, int32_t Y,
+                                     int32_t Width, const int32_t& Height);
+    virtual void LoadPictureBlt(gdi::HDC lHDC, int32_t lSrcLeft = 0, int32_t lSrcTop = 0,
+                                int32_t lSrcWidth = -1, int32_t lSrcHeight = -1,
+                                uint32_t eRop = 0xCC0020);
+
+    // Pixels.
+    /// The pixel with `Blue` in the lowest byte; 0 outside the surface.
+    virtual int32_t GetPixel(int32_t X, int32_t Y);
+    /// Does nothing: write through `DIBSectionBitsPtr`.
+    virtual void SetPixel(int32_t X, int32_t Y, int32_t Color);
+    /// Straight to premultiplied, once; `Flags` remembers it.
+    virtual void PreMultiplyAlpha();
+    /// Premultiplied noise.
+    virtual void RandomiseBits(bool bGray = false);
+    virtual int32_t DrawEdge(uint32_t edge = 5, uint32_t grfFlags = 15);
+
+    // Painting on a device context. A negative size is the surface's own, except that a
+    // destination of `TransPaintPicture` takes the source's.
+    virtual void PaintPicture(gdi::HDC lHDC, int32_t lDstLeft = 0, int32_t lDstTop = 0,
+                              int32_t lDstWidth = -1, int32_t lDstHeight = -1, int32_t lSrcLeft = 0,
+                              int32_t lSrcTop = 0, int32_t lSrcWidth = -1, int32_t lSrcHeight = -1,
+                              uint32_t eRop = 0xCC0020);
+    virtual void TransPaintPicture(gdi::HDC lHDC, int32_t lDstLeft = 0, int32_t lDstTop = 0,
+                                   int32_t lDstWidth = -1, int32_t lDstHeight = -1,
+                                   int32_t lSrcLeft = 0, int32_t lSrcTop = 0,
+                                   int32_t lSrcWidth = -1, int32_t lSrcHeight = -1,
+                                   int32_t crTransparent = DefaultTransColor);
+    /// Expects premultiplied pixels with `bHasAlphaChannel` at a constant alpha of 255.
+    virtual void AlphaPaintPicture(gdi::HDC lHDC, int32_t lDstLeft = 0, int32_t lDstTop = 0,
+                                   int32_t lDstWidth = -1, int32_t lDstHeight = -1,
+                                   int32_t lSrcLeft = 0, int32_t lSrcTop = 0,
+                                   int32_t lSrcWidth = -1, int32_t lSrcHeight = -1,
+                                   uint8_t lConstantAlpha = 255, bool bHasAlphaChannel = true);
+
+    // Transparency.
+    /// Alpha 0 where the colour is the key; other pixels keep theirs. The result is empty.
+    virtual Variant SetTransColor(int32_t Color = DefaultTransColor);
+    /// Alpha 0 where the colour is the key, 255 elsewhere. The result is empty.
+    virtual Variant SetTransColor2(int32_t Color = DefaultTransColor);
+    /// Does nothing. The result is empty.
+    virtual Variant SetTransColor3(int32_t Color = DefaultTransColor, int32_t dl = 3);
+    /// The region of all pixels that are not the key; the caller owns it.
+    virtual gdi::HRGN GetMaskRgn(int32_t TransColor = DefaultTransColor);
+    /// Whether the alpha differs within the rectangle (device coordinates, ends included) from
+    /// that of the first pixel in memory, or that one is neither 0 nor 255.
+    virtual bool HasAlphaChannel(int32_t xStart = 0, int32_t yStart = 0, int32_t xEnd = -1,
+                                 int32_t yEnd = -1);
+
+    // For the library's own classes.
+    /// `Mode`: bits 8 to 11 hold 0x100 for the colour key, 0x200 for alpha, else plain copy; bits
+    /// 0 to 7 the constant alpha.
+    VXGUI_LOCAL void PaintByMode(gdi::HDC hDC, int32_t lDstLeft, int32_t lDstTop, int32_t lDstWidth,
+                                 int32_t lDstHeight, int32_t lSrcLeft, int32_t lSrcTop,
+                                 int32_t lSrcWidth, int32_t lSrcHeight, int32_t Mode);
+    /// Paints a part of the surface into the surface itself with four margins kept.
+    VXGUI_LOCAL void PaintNineGrid(const NineGridRecord& grid);
+    /// `HasAlphaChannel` of the whole, answered once until `ClearUp`.
+    VXGUI_LOCAL bool HasAlphaCached();
+    /// Pixels of the colour (in pixel form, 24 bits) become 0, all others opaque black.
+    VXGUI_LOCAL void MaskFromColor(int32_t colour);
+    VXGUI_LOCAL const gdi::BITMAPINFOHEADER& Header() const { return header_; }
+
+protected:
+    ~cAlphaDIBSection() override;
+
+private:
+    enum class AlphaState : int32_t { Yes = -1, Unknown = 0, No = 1 };
+
+    gdi::HBITMAP hDIB_ = nullptr;
+    gdi::HGDIOBJ oldBitmap_ = nullptr;
+    gdi::HDC hDC_ = nullptr;
+    void* bits_ = nullptr;
+    gdi::HDC compatibleDC_ = nullptr;
+    gdi::BITMAPINFOHEADER header_{};
+    int32_t transparentColor_ = DefaultTransColor;
+    AlphaState alphaState_ = AlphaState::Unknown;
+    uint32_t flags_ = kUseDrawDib | kUseMsImag32;
+};
+
+}  // namespace vxgui
