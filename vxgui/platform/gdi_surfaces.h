@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "vxgui/platform/gdi_types.h"
 
 /// Device contexts, bitmaps and blits. Calls answer 0, false or `CLR_INVALID` on failure, as

@@ -17,6 +17,34 @@ constexpr UINT TA_LEFT = 0, TA_RIGHT = 2, TA_CENTER = 6, TA_TOP = 0, TA_BOTTOM =
 constexpr UINT ETO_OPAQUE = 2, ETO_CLIPPED = 4;
 constexpr UINT GDI_ERROR = 0xFFFFFFFF;
 
+/// The format flags of `DrawTextA` and `DrawTextW`.
+enum DrawTextFlags : UINT {
+    DT_LEFT = 0,
+    DT_TOP = 0,
+    DT_CENTER = 1,
+    DT_RIGHT = 2,
+    DT_VCENTER = 4,
+    DT_BOTTOM = 8,
+    DT_WORDBREAK = 16,
+    DT_SINGLELINE = 32,
+    DT_EXPANDTABS = 64,
+    DT_TABSTOP = 128,  ///< bits 8 to 15 are the distance of the stops, in average widths
+    DT_NOCLIP = 256,
+    DT_EXTERNALLEADING = 512,
+    DT_CALCRECT = 1024,
+    DT_NOPREFIX = 2048,
+    DT_INTERNAL = 4096,
+    DT_EDITCONTROL = 8192,
+    DT_PATH_ELLIPSIS = 16384,
+    DT_END_ELLIPSIS = 32768,
+    DT_MODIFYSTRING = 65536,
+    DT_RTLREADING = 131072,
+    DT_WORD_ELLIPSIS = 262144,
+    DT_NOFULLWIDTHCHARBREAK = 524288,
+    DT_HIDEPREFIX = 1048576,
+    DT_PREFIXONLY = 2097152,
+};
+
 VXPLATFORM_API HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight,
                                  DWORD italic, DWORD underline, DWORD strikeOut, DWORD charSet,
                                  DWORD outPrecision, DWORD clipPrecision, DWORD quality,

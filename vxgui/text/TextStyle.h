@@ -1,0 +1,77 @@
+#pragma once
+
+#include "vxgui/base/Object.h"
+#include "vxgui/base/Ref.h"
+#include "vxgui/base/String.h"
+#include "vxgui/platform/core7.h"
+#include "vxgui/platform/gdi_text.h"
+#include "vxgui/platform/ole.h"
+
+namespace vxgui {
+
+using gdi::DrawTextFlags;
+using enum gdi::DrawTextFlags;
+
+/// The draw styles that have names; 3 (two diagonal copies), 4 (soft shadow) and 5 (blurred
+/// shadow) have none.
+enum E_TextStyle : int32_t {
+    TextStyleNormal = 0,
+    TextStyleShadowRight = 1,
+    TextStyleOutLine = 2,
+};
+
+enum E_TextAlignHorz : int32_t {
+    TextAlignHorzLeft = 0,
+    TextAlignHorzCenter = 1,
+    TextAlignHorzRight = 2,
+    TextAlignHorzJustify = 3,
+    TextAlignHorzJustifyChar = 4,
+};
+
+enum E_TextAlignVert : int32_t {
+    TextAlignVertTop = 0,
+    TextAlignVertCenter = 1,
+    TextAlignVertBottom = 2,
+    TextAlignVertJustify = 3,
+};
+
+/// How a string is painted, as against `LFont`, which says with which font. Writing a field has
+/// no side effect. A style keeps what it draws with between calls, so it draws on one thread.
+///
+/// One field has the class's own name, which the language allows to a class that declares neither
+/// constructors nor a destructor; inside it the type is `class TextStyle`.
+class VXGUI_API TextStyle : public Object {
+public:
+    int32_t TextColor = 0;     ///< an OLE colour
+    int32_t TextContrast = 4;  ///< of draw style 5, 0 to 12
+    int32_t TextStyle = TextStyleNormal;
+    int32_t TextAlignHorz = TextAlignHorzLeft;
+    int32_t TextAlignVert = TextAlignVertTop;
+    int32_t FormatFlags = 0;      ///< string format flags, of draw style 5
+    uint32_t DTFlags = 0;         ///< what the last drawing really used
+    int32_t ShadowColor = 0;      ///< an OLE colour, of the ring or shadow
+    int32_t ShadowThickness = 4;  ///< of draw style 5; 4 is neutral
+    int32_t ShadowX = 0;          ///< reach of the ring, or radius of the blur
+    int32_t ShadowY = 0;
+    int32_t ShadowOffsetX = 0;  ///< shift of the shadow, rightwards
+    int32_t ShadowOffsetY = 0;  ///< and downwards
+
+    /// Sets every field but `DTFlags`. The defaults of a new object aren't kept: what is left out
+    /// becomes 0, the contrast and the thickness too.
+    void Create(int32_t textColor = 0, int32_t textAlignHorz = 0, int32_t textAlignVert = 0,
+                int32_t textStyle = 0, int32_t textContrast = 0, int32_t shadowColor = 0,
+                int32_t shadowThickness = 0, int32_t shadowX = 0, int32_t shadowY = 0,
+                int32_t shadowOffsetX = 0, int32_t shadowOffsetY = 0, int32_t formatFlags = 0);
+    /// Compares every field but `DTFlags`; false for none.
+    bool Equal(const Ref<class TextStyle>& other) const;
+    /// A copy of what `Equal` compares.
+    Ref<class TextStyle> Clone() const;
+    /// Reads a section of a define file. Numbers are brought into range by a remainder.
+    void FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName);
+
+    /// The shadow takes part only with a draw style above 0. Nothing is brought into range.
+    void ReadProperties(const Ref<ole::PropertyBag>& propBag);
+    void WriteProperties(const Ref<ole::PropertyBag>& propBag) const;
+};
+
+}  // namespace vxgui
