@@ -1,0 +1,71 @@
+#include "vxgui/platform/gdi/Bitmap.h"
+
+#include <cstdlib>
+#include <cstring>
+
+#include "vxgui/platform/gdi_surfaces.h"
+
+namespace vxgui::gdi {
+
+Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<ColorTable> colors)
+    : GdiObject(kKind), shape_(shape), block_(block), colors_(std::move(colors)) {}
+
+Bitmap::~Bitmap() {
+    if (block_.owned) std::free(block_.bits);
+}
+
+PixelTarget Bitmap::Target() const {
+    PixelTarget target{block_.bits,   shape_.stride, shape_.width,
+                       shape_.height, shape_.depth,  colors_.get()};
+    if (shape_.bottomUp) {
+        target.top += (shape_.height - 1) * shape_.stride;
+        target.stride = -shape_.stride;
+    }
+    return target;
+}
+
+BITMAP Bitmap::BitmapRecord() const {
+    BITMAP record{};
+    record.bmWidth = shape_.width;
+    record.bmHeight = shape_.height;
+    record.bmWidthBytes = static_cast<LONG>(shape_.stride);
+    record.bmPlanes = 1;
+    record.bmBitsPixel = static_cast<WORD>(shape_.depth);
+    // The memory of a device bitmap is the platform's own affair.
+    record.bmBits = shape_.dibSection ? block_.bits : nullptr;
+    return record;
+}
+
+BITMAPINFOHEADER Bitmap::Header() const {
+    BITMAPINFOHEADER header{};
+    header.biSize = sizeof(header);
+    header.biWidth = shape_.width;
+    header.biHeight = shape_.bottomUp ? shape_.height : -shape_.height;
+    header.biPlanes = 1;
+    header.biBitCount = static_cast<WORD>(shape_.depth);
+    header.biSizeImage = static_cast<DWORD>(shape_.stride * shape_.height);
+    header.biClrUsed = colors_ ? static_cast<DWORD>(colors_->count) : 0;
+    return header;
+}
+
+int Bitmap::Record(int size, void* buffer) const {
+    if (!buffer) return kBitmapRecordSize;
+    if (size < kBitmapRecordSize) return 0;
+    if (!shape_.dibSection || size < kDibSectionRecordSize) {
+        const BITMAP record = BitmapRecord();
+        std::memcpy(buffer, &record, sizeof(record));
+        return kBitmapRecordSize;
+    }
+    DIBSECTION record{};
+    record.dsBm = BitmapRecord();
+    record.dsBmih = Header();
+    std::memcpy(buffer, &record, sizeof(record));
+    return kDibSectionRecordSize;
+}
+
+bool Bitmap::Claim(const DeviceContext* context) {
+    const DeviceContext* owner = nullptr;
+    return Permanent() || owner_.compare_exchange_strong(owner, context) || owner == context;
+}
+
+}  // namespace vxgui::gdi

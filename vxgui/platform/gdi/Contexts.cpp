@@ -1,0 +1,78 @@
+#include <algorithm>
+
+#include "vxgui/platform/gdi/DeviceContext.h"
+#include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi_surfaces.h"
+
+namespace vxgui::gdi {
+namespace {
+
+std::atomic<int> screenDpi{96};
+
+HDC EnterContext(std::unique_ptr<DeviceContext> context) {
+    const GdiRef<DeviceContext> entered = Enter(std::move(context));
+    return entered ? static_cast<HDC>(entered->Handle()) : nullptr;
+}
+
+bool RowsHold(const HostPixels& pixels) {
+    if (!pixels.bits || pixels.width <= 0 || pixels.height <= 0) return false;
+    const ptrdiff_t row = ptrdiff_t{pixels.width} * 4;
+    const ptrdiff_t stride = pixels.stride < 0 ? -pixels.stride : pixels.stride;
+    return pixels.height == 1 || (pixels.stride != PTRDIFF_MIN && stride >= row);
+}
+
+}  // namespace
+
+HDC CreateHostDC(const HostPixels& pixels) {
+    if (!RowsHold(pixels)) return nullptr;
+    BitmapShape shape;
+    shape.width = pixels.width;
+    shape.height = pixels.height;
+    shape.stride = pixels.stride;
+    shape.bottomUp = pixels.bottomUp;
+    auto bitmap =
+        std::make_unique<Bitmap>(shape, PixelBlock{static_cast<uint8_t*>(pixels.bits), 0, false});
+    bitmap->MakePermanent();
+    GdiRef<Bitmap> entered = Enter(std::move(bitmap));
+    return entered ? EnterContext(std::make_unique<DeviceContext>(std::move(entered))) : nullptr;
+}
+
+HDC CreateCompatibleDC(HDC dc) {
+    if (dc && !FindContext(dc)) return nullptr;
+    return EnterContext(std::make_unique<DeviceContext>());
+}
+
+BOOL DeleteDC(HDC dc) {
+    const GdiRef<DeviceContext> context = FindContext(dc);
+    if (!context) return 0;
+    // A host's bitmap goes with its context.
+    if (context->IsHost()) context->state.bitmap->Delete();
+    return HandleTable::Retire(*context);
+}
+
+void SetScreenDpi(int dpi) { screenDpi = std::max(dpi, 1); }
+
+int ScreenDpi() { return screenDpi; }
+
+int GetDeviceCaps(HDC dc, int index) {
+    const GdiRef<DeviceContext> context = FindContext(dc);
+    if (!context) return 0;
+    const PixelTarget target = context->Target();
+    switch (index) {
+        case LOGPIXELSX:
+        case LOGPIXELSY:
+            return ScreenDpi();
+        case HORZRES:
+            return target.width;
+        case VERTRES:
+            return target.height;
+        case BITSPIXEL:
+            return target.depth;
+        case PLANES:
+            return 1;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace vxgui::gdi

@@ -1,0 +1,137 @@
+#include "vxgui/platform/gdi/HandleTable.h"
+
+#include <array>
+#include <mutex>
+
+namespace vxgui::gdi {
+namespace {
+
+// A handle: the index in the low 20 bits, the generation above. Slots stand in chunks that are
+// never moved or freed, so that a look-up needs no lock.
+constexpr int kIndexBits = 20;
+constexpr uintptr_t kIndexMask = (uintptr_t{1} << kIndexBits) - 1;
+constexpr uint32_t kChunkSize = 1024;
+constexpr uint32_t kChunkCount = (1u << kIndexBits) / kChunkSize;
+constexpr int kReferenceBits = 24;
+constexpr uint64_t kReferenceMask = (uint64_t{1} << kReferenceBits) - 1;
+constexpr uint64_t kGenerationStep = uint64_t{1} << kReferenceBits;
+constexpr uint64_t kHandleGenerationMask = UINTPTR_MAX >> kIndexBits;
+
+struct Table {
+    std::mutex mutex;
+    std::array<std::atomic<HandleSlot*>, kChunkCount> chunks{};
+    uint32_t used = 1;  // index 0 stays empty, so that no handle is null
+    uint32_t firstFree = 0;
+    size_t live = 0;
+};
+
+// Never destroyed: handles may be used while the process ends.
+Table& TheTable() {
+    static Table* const table = new Table;
+    return *table;
+}
+
+uint64_t GenerationOf(uint64_t state) { return (state >> kReferenceBits) & kHandleGenerationMask; }
+
+HandleSlot* SlotAt(const Table& table, uint32_t index) {
+    HandleSlot* chunk = table.chunks[index / kChunkSize].load(std::memory_order_acquire);
+    return chunk ? &chunk[index % kChunkSize] : nullptr;
+}
+
+HandleSlot* FreshSlot(Table& table) {
+    if (table.used >= kChunkCount * kChunkSize) return nullptr;
+    const uint32_t index = table.used;
+    std::atomic<HandleSlot*>& chunk = table.chunks[index / kChunkSize];
+    if (!chunk.load(std::memory_order_relaxed)) {
+        chunk.store(new HandleSlot[kChunkSize], std::memory_order_release);
+    }
+    ++table.used;
+    HandleSlot* slot = SlotAt(table, index);
+    slot->index = index;
+    return slot;
+}
+
+HandleSlot* FreeSlot(Table& table) {
+    if (table.firstFree == 0) return FreshSlot(table);
+    HandleSlot* slot = SlotAt(table, table.firstFree);
+    table.firstFree = slot->nextFree;
+    return slot;
+}
+
+HandleSlot* TakeSlot(Table& table) {
+    const std::lock_guard lock(table.mutex);
+    HandleSlot* slot = FreeSlot(table);
+    if (slot) ++table.live;
+    return slot;
+}
+
+void GiveBack(HandleSlot& slot) {
+    Table& table = TheTable();
+    const std::lock_guard lock(table.mutex);
+    slot.nextFree = table.firstFree;
+    table.firstFree = slot.index;
+}
+
+HGDIOBJ HandleValue(const HandleSlot& slot, uint64_t state) {
+    return reinterpret_cast<HGDIOBJ>(static_cast<uintptr_t>(GenerationOf(state)) << kIndexBits |
+                                     slot.index);
+}
+
+}  // namespace
+
+GdiObject* HandleTable::Enter(std::unique_ptr<GdiObject> object) {
+    HandleSlot* slot = TakeSlot(TheTable());
+    if (!slot) return nullptr;
+    const uint64_t generation = (slot->state.load() & ~kReferenceMask) + kGenerationStep;
+    object->slot_ = slot;
+    object->handle_ = HandleValue(*slot, generation);
+    slot->object.store(object.get(), std::memory_order_relaxed);
+    slot->state.store(generation | 2, std::memory_order_release);
+    return object.release();
+}
+
+GdiObject* HandleTable::Acquire(const void* handle) {
+    const auto value = reinterpret_cast<uintptr_t>(handle);
+    const uint64_t generation = value >> kIndexBits;
+    if ((generation & 1) == 0) return nullptr;
+    HandleSlot* slot = SlotAt(TheTable(), static_cast<uint32_t>(value & kIndexMask));
+    if (!slot) return nullptr;
+    uint64_t state = slot->state.load(std::memory_order_acquire);
+    do {
+        if (GenerationOf(state) != generation || (state & kReferenceMask) == 0) return nullptr;
+    } while (!slot->state.compare_exchange_weak(state, state + 1, std::memory_order_acq_rel));
+    return slot->object.load(std::memory_order_relaxed);
+}
+
+bool HandleTable::Retire(GdiObject& object) {
+    HandleSlot& slot = *object.slot_;
+    const auto generation = reinterpret_cast<uintptr_t>(object.handle_) >> kIndexBits;
+    uint64_t state = slot.state.load();
+    do {
+        if (GenerationOf(state) != generation) return false;
+    } while (!slot.state.compare_exchange_weak(state, state + kGenerationStep));
+    {
+        const std::lock_guard lock(TheTable().mutex);
+        --TheTable().live;
+    }
+    Release(slot);
+    return true;
+}
+
+void HandleTable::AddReference(HandleSlot& slot) {
+    slot.state.fetch_add(1, std::memory_order_relaxed);
+}
+
+void HandleTable::Release(HandleSlot& slot) {
+    const uint64_t before = slot.state.fetch_sub(1, std::memory_order_acq_rel);
+    if ((before & kReferenceMask) != 1) return;
+    delete slot.object.exchange(nullptr);
+    GiveBack(slot);
+}
+
+size_t HandleTable::LiveCount() {
+    const std::lock_guard lock(TheTable().mutex);
+    return TheTable().live;
+}
+
+}  // namespace vxgui::gdi
