@@ -1,6 +1,8 @@
 #pragma once
 
-#include <memory>
+#include <chrono>
+#include <functional>
+#include <optional>
 #include <vector>
 
 #include "vxgui/base/Object.h"
@@ -12,20 +14,27 @@
 /// compressor.
 namespace vxgui::core7 {
 
-/// The trace sink. Lines go to the function that the host set, else nowhere.
+/// The trace object. Its lines go to the function that the host set, else nowhere.
 class VXPLATFORM_API Trace : public Object {
 public:
+    /// Names the application whose lines these are; before, they carry an empty name. `level` is
+    /// the lowest level that is passed on.
     virtual void Start(const String& application, int32_t level) = 0;
     virtual void Write(const String& text, int32_t level) = 0;
 };
 VXPLATFORM_API Ref<Trace> CreateTrace();
 
-/// The system information object and its two sub-objects.
+/// Where the lines of the calling apartment's trace objects go, those made earlier included; an
+/// empty function ends it. The sink must not raise.
+using TraceSink = std::function<void(const String& application, const String& text, int32_t level)>;
+VXPLATFORM_API void SetTraceSink(TraceSink sink);
+
+/// The system information object.
 class VXPLATFORM_API SystemInformation : public Object {
 public:
-    /// The value that the apartment's switch for the platform's own blits starts from.
+    /// The value that the apartment's switch for the platform's own blits starts from: false.
     virtual bool PrefersSystemAlphaBlend() = 0;
-    /// The description of a system error code.
+    /// The description of a system error code, in one line; never empty.
     virtual String ErrorText(uint32_t code) = 0;
 };
 VXPLATFORM_API Ref<SystemInformation> CreateSystemInformation();
@@ -79,6 +88,18 @@ struct DefineLimits {
 };
 VXPLATFORM_API DefineLimits& ApartmentDefineLimits();
 
+/// The compressor of persisted pixels: one zstd frame (RFC 8878) that states the size of its
+/// content.
+VXPLATFORM_API ByteArray Compress(const ByteArray& bytes);
+/// The size of the content; 0 for what is not compressed, or says more than the limit.
+VXPLATFORM_API size_t GetSize(const ByteArray& compressed);
+/// The content; none for what is not compressed, is damaged, says more than the limit, or holds
+/// another amount than it says.
+VXPLATFORM_API std::optional<ByteArray> Decompress(const ByteArray& compressed);
+/// What a frame may claim to hold, looked at before memory is taken; the host may set another
+/// for its apartment.
+VXPLATFORM_API size_t& ApartmentDecompressionLimit();
+
 class VXPLATFORM_API ResourceService : public Object {
 public:
     /// The bytes of a resource, empty if there is none.
@@ -90,17 +111,23 @@ public:
 /// The platform's file-system object. Both separators are understood; what comes out has "/".
 class VXPLATFORM_API FileSystem : public Object {
 public:
+    /// The two with one separator between them; `folder` alone when `name` is empty.
     virtual String BuildPath(const String& folder, const String& name) = 0;
+    /// True for a file, false for a folder.
     virtual bool FileExists(const String& path) = 0;
+    /// Empty for a bare name and for the root.
     virtual String GetParentFolderName(const String& path) = 0;
+    /// What follows the last point of the last part, without the point.
     virtual String GetExtensionName(const String& path) = 0;
 };
 
 class VXPLATFORM_API PathService : public Object {
 public:
-    /// One path of the parts, with single separators; an absolute later part starts afresh.
+    /// One path of the parts, with single separators; an absolute later part starts afresh and
+    /// empty parts count for nothing.
     virtual String JoinPath(const std::vector<String>& parts) = 0;
     virtual bool FileExists(const String& path) = 0;
+    /// True for a file and for a folder.
     virtual bool PathExists(const String& path) = 0;
     virtual FileSystem& TheFileSystem() = 0;
 };
@@ -109,11 +136,39 @@ public:
 VXPLATFORM_API ResourceService& TheResourceService();
 VXPLATFORM_API PathService& ThePathService();
 
-/// The file service: a whole file at once.
+/// The file service: a whole file at once. False, with the reason in `kernel::GetLastError`, for
+/// what is no plain file, cannot be read or is longer than `limit`; `bytes` is then empty.
 VXPLATFORM_API bool ReadWholeFile(const String& path, ByteArray* bytes, size_t limit = 1u << 30);
+/// Makes or replaces the file. A failed write leaves the part that was written.
 VXPLATFORM_API bool WriteWholeFile(const String& path, const void* data, size_t size);
 
-/// The path as the operating system takes it: UTF-8, with "/" for "\".
+/// A file that is written piece by piece; the object's end closes it.
+class VXPLATFORM_API OutputFile : public Object {
+public:
+    /// False when not all of it could be written, with the reason in `kernel::GetLastError`;
+    /// `written`, where given, gets the number of bytes that were.
+    virtual bool Write(const void* data, size_t size, size_t* written = nullptr) = 0;
+};
+/// Makes the file or empties the one that is there; none, with the reason in
+/// `kernel::GetLastError`, when that fails.
+VXPLATFORM_API Ref<OutputFile> CreateOutputFile(const String& path);
+
+/// The path as the operating system takes it: UTF-8, with "/" for "\". Skins are authored where
+/// letter case does not matter: a part that does not exist as written becomes the entry that
+/// differs from it in case alone, if there is one. Empty for what can be no path, one with NUL.
 VXPLATFORM_API std::string NativePath(const String& path);
+
+/// Wall time for diagnostics.
+class Stopwatch {
+public:
+    void Restart() { start_ = Clock::now(); }
+    double ElapsedMilliseconds() const {
+        return std::chrono::duration<double, std::milli>(Clock::now() - start_).count();
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point start_ = Clock::now();
+};
 
 }  // namespace vxgui::core7
