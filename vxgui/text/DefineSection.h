@@ -1,0 +1,28 @@
+#pragma once
+
+#include "vxgui/base/Error.h"
+#include "vxgui/platform/core7.h"
+
+namespace vxgui {
+
+/// One section of a define file, for readers that take many keys of it.
+class DefineSection {
+public:
+    /// Raises for no file.
+    DefineSection(const Ref<core7::DefineFile>& file, const String& name, const char* source)
+        : file_(file), name_(name) {
+        if (!file_) throw Error(ErrorNumber::ObjectNotSet, source, "Object not set");
+    }
+
+    String Text(const char* key) const { return file_->GetString(name_, key, ""); }
+    int32_t Integer(const char* key, const char* fallback = "0") const {
+        return file_->GetInteger(name_, key, fallback);
+    }
+    double Number(const char* key) const { return file_->GetNumber(name_, key, "0"); }
+
+private:
+    Ref<core7::DefineFile> file_;
+    const String& name_;
+};
+
+}  // namespace vxgui

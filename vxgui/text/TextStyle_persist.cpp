@@ -1,0 +1,69 @@
+#include "vxgui/base/Error.h"
+#include "vxgui/base/VariantValue.h"
+#include "vxgui/text/TextStyle.h"
+
+namespace vxgui {
+
+namespace {
+
+using Style = class TextStyle;
+
+struct Property {
+    const char* key;
+    int32_t Style::*field;
+    int32_t fallback;
+};
+constexpr Property kText[] = {
+    {"TextColor", &Style::TextColor, 0},
+    {"TextContrast", &Style::TextContrast, 4},
+    {"TextAlignHorz", &Style::TextAlignHorz, 0},
+    {"TextAlignVert", &Style::TextAlignVert, 0},
+};
+constexpr Property kDrawStyle = {"TextStyle", &Style::TextStyle, 0};
+constexpr Property kFormatFlags = {"FormatFlags", &Style::FormatFlags, 0};
+constexpr Property kShadow[] = {
+    {"ShadowColor", &Style::ShadowColor, 0},
+    {"ShadowThickness", &Style::ShadowThickness, 4},
+    {"ShadowX", &Style::ShadowX, 1},
+    {"ShadowY", &Style::ShadowY, 1},
+    {"ShadowOffsetX", &Style::ShadowOffsetX, 0},
+    {"ShadowOffsetY", &Style::ShadowOffsetY, 0},
+};
+
+/// Raises for no bag.
+void Check(const Ref<ole::PropertyBag>& bag, const char* source) {
+    if (!bag) throw Error(ErrorNumber::ObjectNotSet, source, "Object not set");
+}
+
+constexpr char kReading[] = "TextStyle.ReadProperties";
+
+}  // namespace
+
+void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
+    const KeepAlive keep(this);
+    Check(propBag, kReading);
+    const auto read = [&](const Property& property) {
+        const Variant stored = propBag->ReadProperty(property.key, property.fallback);
+        this->*property.field = IntegerFrom(stored, kReading);
+    };
+    for (const Property& property : kText) read(property);
+    read(kFormatFlags);  // ahead of the draw style here, and behind it in writing
+    read(kDrawStyle);
+    if (TextStyle <= 0) return;
+    for (const Property& property : kShadow) read(property);
+}
+
+void TextStyle::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
+    const KeepAlive keep(this);
+    Check(propBag, "TextStyle.WriteProperties");
+    const auto write = [&](const Property& property) {
+        propBag->WriteProperty(property.key, this->*property.field, property.fallback);
+    };
+    for (const Property& property : kText) write(property);
+    write(kDrawStyle);
+    write(kFormatFlags);
+    if (TextStyle <= 0) return;
+    for (const Property& property : kShadow) write(property);
+}
+
+}  // namespace vxgui
