@@ -8,42 +8,52 @@
 
 namespace vxgui::gdi {
 
-/// A set of pixels, kept y-x banded by pixman. A value: copied and moved freely.
+/// A set of pixels, kept by pixman as rectangles in bands from the top, equal neighbours merged,
+/// so that equal sets have equal rectangles. A value: copied and moved freely. Holds any 32-bit
+/// coordinates; running out of memory throws std::bad_alloc.
 class PixelRegion {
 public:
     PixelRegion() { pixman_region32_init(&region_); }
-    explicit PixelRegion(const RECT& r) {
-        if (r.right > r.left && r.bottom > r.top) {
-            pixman_region32_init_rect(
-                &region_, r.left, r.top,
-                static_cast<unsigned>(r.right) - static_cast<unsigned>(r.left),
-                static_cast<unsigned>(r.bottom) - static_cast<unsigned>(r.top));
-        } else {
-            pixman_region32_init(&region_);
-        }
-    }
-    PixelRegion(const PixelRegion& other) : PixelRegion() {
-        pixman_region32_copy(&region_, &other.region_);
-    }
-    PixelRegion& operator=(const PixelRegion& other) {
-        if (this != &other) pixman_region32_copy(&region_, &other.region_);
-        return *this;
-    }
+    /// The rectangle, its corners put in order.
+    explicit PixelRegion(const RECT& rect);
+    /// The union of `boxes`, which may overlap; those without an inside count for nothing.
+    static PixelRegion FromBoxes(std::span<const pixman_box32_t> boxes);
+    PixelRegion(const PixelRegion& other);
+    PixelRegion(PixelRegion&& other) noexcept;
+    PixelRegion& operator=(PixelRegion other) noexcept;
     ~PixelRegion() { pixman_region32_fini(&region_); }
 
-    pixman_region32_t* get() { return &region_; }
-    /// pixman's readers take a pointer that isn't const.
-    pixman_region32_t* get() const { return &region_; }
+    bool Empty() const { return Boxes().empty(); }
+    /// NULLREGION, SIMPLEREGION (one rectangle) or COMPLEXREGION.
+    int Kind() const;
+    /// The smallest rectangle around it; all 0 when the region is empty.
+    RECT Bounds() const;
+    bool Contains(int32_t x, int32_t y) const;
+    /// Whether a pixel of `rect`, its corners put in order, belongs to the region.
+    bool Overlaps(const RECT& rect) const;
+
+    /// Becomes `a` combined with `b` by an RGN_ mode; RGN_COPY ignores `b`. Either may be this
+    /// region. False, and nothing changed, for an unknown mode.
+    bool Combine(const PixelRegion& a, const PixelRegion& b, int mode);
+    /// False, and nothing changed, when the result would leave the 32-bit coordinates.
+    bool Offset(int32_t dx, int32_t dy);
+    /// A moved copy without what would leave the 32-bit coordinates.
+    PixelRegion Shifted(int32_t dx, int32_t dy) const;
 
     /// The rectangles, in bands from the top, each from the left.
-    std::span<const pixman_box32_t> Boxes() const {
-        int count = 0;
-        const pixman_box32_t* boxes = pixman_region32_rectangles(&region_, &count);
-        return {boxes, static_cast<size_t>(count)};
-    }
+    std::span<const pixman_box32_t> Boxes() const;
+
+    friend bool operator==(const PixelRegion& a, const PixelRegion& b);
 
 private:
-    mutable pixman_region32_t region_;
+    pixman_region32_t region_;
 };
+
+/// The rectangle with left not above right and top not above bottom.
+constexpr RECT InOrder(const RECT& r) {
+    return {r.left < r.right ? r.left : r.right, r.top < r.bottom ? r.top : r.bottom,
+            r.left < r.right ? r.right : r.left, r.top < r.bottom ? r.bottom : r.top};
+}
+constexpr RECT RectOf(const pixman_box32_t& box) { return {box.x1, box.y1, box.x2, box.y2}; }
 
 }  // namespace vxgui::gdi
