@@ -26,6 +26,8 @@ protected:
         return box;
     }
 
+    // Stock objects come with first use and stay.
+    HGDIOBJ stock = GetStockObject(WHITE_BRUSH);
     const size_t before = HandleTable::LiveCount();
     HRGN a = CreateRectRgn(0, 0, 10, 10);
     HRGN b = CreateRectRgn(5, 5, 15, 15);
@@ -139,7 +141,7 @@ TEST_F(Regions, StaleAndWrongHandlesFail) {
     HRGN stale = CreateRectRgn(0, 0, 1, 1);
     DeleteObject(stale);
     RECT box{7, 7, 7, 7};
-    const auto brush = reinterpret_cast<HRGN>(GetStockObject(WHITE_BRUSH));
+    const auto brush = static_cast<HRGN>(stock);
     for (HRGN wrong : {stale, brush, HRGN{}}) {
         EXPECT_EQ(CombineRgn(wrong, a, b, RGN_OR), ERROR);
         EXPECT_EQ(CombineRgn(target, wrong, b, RGN_OR), ERROR);
