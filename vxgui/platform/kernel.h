@@ -21,26 +21,32 @@ constexpr UINT MB_SETFOREGROUND = 0x10000;
 constexpr int IDOK = 1;
 
 /// Everything that the library asks of the kernel. Each call has its published meaning; a test
-/// puts an object of its own in the place of the real one.
+/// puts an object of its own in the place of the real one. Module names are UTF-8, and both
+/// separators are understood in them.
 class VXPLATFORM_API Kernel {
 public:
     virtual ~Kernel();
 
-    /// A module that is loaded already; the name is compared without regard to case and its
-    /// ending ".dll" may be left out. Null when there is none.
+    /// A built-in module, or a file that is loaded already; the name is compared without regard
+    /// to case and its ending ".dll" may be left out. A name with a folder means that very file.
+    /// Null when there is none.
     virtual HMODULE GetModuleHandleA(const char* name) = 0;
-    /// Built-in modules first, then files: resource-only module files and shared objects. Null
-    /// when there is none, with the reason in `GetLastError`.
+    /// Built-in modules first, then files: shared objects, and portable executables, which are
+    /// kept for their resources and never run. A bare name is looked for beside this library and
+    /// beside the program, and nowhere else. Null when there is none, with the reason in
+    /// `GetLastError`.
     virtual HMODULE LoadLibraryA(const char* name) = 0;
-    /// Undoes one `LoadLibraryA`. False for what is no module.
+    /// Undoes one `LoadLibraryA`; a built-in module stays. False for what is no module.
     virtual BOOL FreeLibrary(HMODULE module) = 0;
-    /// An export by name, or by ordinal where `name` is below 0x10000. Null when there is none.
+    /// An export by name, or by ordinal where `name` is below 0x10000. Null when there is none;
+    /// what a shared object merely uses is none of its exports, and it has no ordinals.
     virtual FARPROC GetProcAddress(HMODULE module, const char* name) = 0;
-    /// The file name of a module; null stands for the library itself.
+    /// The full path of the file that holds a module; null stands for the library itself.
     virtual String GetModuleFileNameA(HMODULE module) = 0;
     /// Shows the text where a user will read it; answers the button, `IDOK`.
     virtual int MessageBox(const String& text, const String& caption, UINT style) = 0;
-    /// Ends the process.
+    /// Ends the process at once. An exit status has eight bits: a code that doesn't fit ends as
+    /// 255.
     virtual void ExitProcess(UINT code) = 0;
 };
 
@@ -51,6 +57,12 @@ VXPLATFORM_API Kernel& TheKernel();
 VXPLATFORM_API Kernel* SetKernel(Kernel* kernel);
 /// The real kernel, for tests that change one answer and pass on the rest.
 VXPLATFORM_API Kernel& RealKernel();
+
+/// Shows a message box for the real kernel and answers the button. Without one the text goes to
+/// the standard error stream.
+using MessageBoxFunction = int (*)(const String& text, const String& caption, UINT style);
+/// A form toolkit that can show boxes sets its function here; null takes it away.
+VXPLATFORM_API void SetMessageBoxFunction(MessageBoxFunction show);
 
 /// One export of a built-in module: by name, and by ordinal where it is not 0.
 struct Export {
@@ -76,10 +88,12 @@ VXPLATFORM_API ResourceBlock FindModuleResource(HMODULE module, const String& ty
 VXPLATFORM_API DWORD GetLastError();
 VXPLATFORM_API void SetLastError(DWORD code);
 
-/// The ANSI code page of the calling apartment, an iconv name; "CP1252" at first.
-VXPLATFORM_API void SetAnsiCodePage(const std::string& name);
+/// The ANSI code page of the calling apartment, an iconv name; "CP1252" at first. False, and
+/// nothing changes, for an unknown one.
+VXPLATFORM_API bool SetAnsiCodePage(const std::string& name);
 VXPLATFORM_API const std::string& AnsiCodePage();
-/// Conversions to and from it; what it cannot express becomes "?" or U+FFFD.
+/// Conversions to and from it. A character that it can't express becomes "?", a byte that it
+/// doesn't know U+FFFD.
 VXPLATFORM_API std::string AnsiFromText(const String& text);
 VXPLATFORM_API String TextFromAnsi(std::string_view bytes);
 /// The same for any code page that iconv knows. False for an unknown one.
