@@ -1,0 +1,43 @@
+#include "vxgui/pixels/Premultiply.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tests/pixels/Reference.h"
+
+namespace vxgui {
+namespace {
+
+TEST(Premultiply, AgreesWithTheFormulaForEveryColourAndAlpha) {
+    std::vector<ARGB> pixels, expected;
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        for (int c = 0; c < 256; ++c) {
+            const auto a = static_cast<uint8_t>(alpha), blue = static_cast<uint8_t>(c),
+                       green = static_cast<uint8_t>(255 - c), red = static_cast<uint8_t>(c * 7);
+            pixels.push_back({blue, green, red, a});
+            expected.push_back({reference::PremultiplyByte(blue, a),
+                                reference::PremultiplyByte(green, a),
+                                reference::PremultiplyByte(red, a), a});
+        }
+    }
+    Premultiply(pixels);
+    EXPECT_EQ(pixels, expected);
+}
+
+TEST(Premultiply, FactorIsAlphaPlusOne) {
+    ARGB pixel{0, 0, 255, 127};
+    Premultiply({&pixel, 1});
+    EXPECT_EQ(pixel, (ARGB{0, 0, 127, 127}));
+}
+
+TEST(Premultiply, ClearPixelsLoseTheirColour) {
+    ARGB pixel{1, 2, 3, 0};
+    Premultiply({&pixel, 1});
+    EXPECT_EQ(pixel, ARGB{});
+}
+
+TEST(Premultiply, NothingToDoForNothing) { Premultiply({}); }
+
+}  // namespace
+}  // namespace vxgui
