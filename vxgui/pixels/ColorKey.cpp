@@ -1,0 +1,58 @@
+#include "vxgui/pixels/ColorKey.h"
+
+#include <algorithm>
+
+#include "vxgui/pixels/Lanes.h"
+#include "vxgui/pixels/Multiversion.h"
+
+namespace vxgui {
+
+using namespace lanes;
+
+namespace {
+
+VXGUI_MULTIVERSION
+void MergeLoop(const ARGB* source, ARGB* target, size_t count, uint32_t match) {
+    for (size_t i = 0; i < count; ++i) {
+        const uint32_t s = Load(source[i]), t = Load(target[i]);
+        Store(target[i], (s & kColor) == match ? t : s);
+    }
+}
+
+/// Sets the alpha byte to that of `matching` where the colour matches; elsewhere the bits of
+/// `keep` stay and those of `other` are added.
+VXGUI_MULTIVERSION
+void SetAlphaLoop(ARGB* pixels, size_t count, uint32_t match, uint32_t matching, uint32_t keep,
+                  uint32_t other) {
+    for (size_t i = 0; i < count; ++i) {
+        const uint32_t value = Load(pixels[i]), color = value & kColor;
+        Store(pixels[i], color == match ? color | matching : (value & keep) | other);
+    }
+}
+
+VXGUI_MULTIVERSION
+void MaskLoop(ARGB* pixels, size_t count, uint32_t color) {
+    for (size_t i = 0; i < count; ++i) {
+        Store(pixels[i], (Load(pixels[i]) ^ color) & kColor ? kAlpha : 0);
+    }
+}
+
+}  // namespace
+
+void MergeByKey(std::span<const ARGB> source, std::span<ARGB> target, uint32_t key) {
+    MergeLoop(source.data(), target.data(), std::min(source.size(), target.size()),
+              SwapRedBlue(key));
+}
+
+void SetAlphaByKey(std::span<ARGB> pixels, uint32_t key, uint8_t matchAlpha,
+                   std::optional<uint8_t> otherAlpha) {
+    const uint32_t keep = otherAlpha ? kColor : kColor | kAlpha;
+    SetAlphaLoop(pixels.data(), pixels.size(), SwapRedBlue(key), uint32_t{matchAlpha} << 24, keep,
+                 uint32_t{otherAlpha.value_or(0)} << 24);
+}
+
+void MaskByColor(std::span<ARGB> pixels, uint32_t color) {
+    MaskLoop(pixels.data(), pixels.size(), color);
+}
+
+}  // namespace vxgui
