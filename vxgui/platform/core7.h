@@ -39,52 +39,66 @@ public:
 };
 VXPLATFORM_API Ref<SystemInformation> CreateSystemInformation();
 
-/// A problem found while a define file was read.
+/// A problem found while a define file was read. Reading goes on behind it.
 struct DefineProblem {
-    int32_t line;    ///< from 1
+    int32_t line;    ///< from 1; 0 when the file as a whole is meant
     int32_t column;  ///< from 1, in UTF-16 units
     String text;
 };
 
+/// "path:line:column: text"; what isn't known is left out.
+VXPLATFORM_API String DescribeProblem(const String& path, const DefineProblem& problem);
+
 /// Where a key or section stands.
 struct DefinePosition {
-    int32_t line = 0;  ///< 0 when it isn't there
+    int32_t line = 0;  ///< from 1; 0 when it isn't there
     int32_t column = 0;
 };
 
-/// A define file: sections of keys with text values. Section and key names are compared without
-/// regard to case.
+/// A define file: sections of keys with text values, in the lines "[section]", "key = value" and
+/// "; comment". Section and key names are compared without regard to case. Blanks around names
+/// and values are cut, then one pair of quotes (" or ') around a value; a ";" in a value is part
+/// of it. Sections of one name are one section; of keys of one name in a section the first
+/// counts. Keys before the first header belong to the section with the empty name.
 class VXPLATFORM_API DefineFile : public Object {
 public:
     /// The value, or `fallback` when the section or key is absent.
     virtual String GetString(const String& section, const String& key, const String& fallback) = 0;
-    /// The value as a 32-bit integer: the leading number of the text, rounded half to even; 0
-    /// when it has none. `fallback`, which is text, is converted when the key is absent.
+    /// The value as a 32-bit integer: the leading number of the text (vxgui/base/NumberText.h),
+    /// rounded half to even; 0 when it has none. It wraps, so that 4294967295 is -1, as in
+    /// colours without a sign; beyond 64 bits it is 0. `fallback`, which is text, is converted
+    /// in the same way when the key is absent.
     virtual int32_t GetInteger(const String& section, const String& key,
                                const String& fallback) = 0;
+    /// The leading number itself; always finite.
     virtual double GetNumber(const String& section, const String& key, const String& fallback) = 0;
-    /// All section names in their order.
+    /// The names of all sections that have a header, in their order.
     virtual std::vector<String> SectionNames() = 0;
     /// The names of a section's keys in their order.
     virtual std::vector<String> KeyNames(const String& section) = 0;
 
-    /// Binds the object to a file. False, with the reason in `Problems`, when it can't be read;
-    /// the object is then empty.
+    /// Reads a file: UTF-8 or UTF-16 by its byte-order mark; without one UTF-8 if it is well
+    /// formed, else the ANSI code page of the apartment. False, with the reason in `Problems`,
+    /// when it can't be read or is beyond the limits; the object is then empty.
     virtual bool OpenFile(const String& path) = 0;
     /// Reads a whole text; for files that exist in memory alone.
     virtual bool LoadText(const String& text) = 0;
 
+    /// The path that was given to `OpenFile`; empty for a text.
     virtual String Path() const = 0;
+    /// In the order of the lines.
     virtual const std::vector<DefineProblem>& Problems() const = 0;
+    /// Where the key's name stands.
     virtual DefinePosition PositionOf(const String& section, const String& key) const = 0;
+    /// Where the name in the section's first header stands.
     virtual DefinePosition PositionOf(const String& section) const = 0;
 };
 VXPLATFORM_API Ref<DefineFile> CreateDefineFile();
 
 /// Bounds on what a define file may be; the host may set others for its apartment.
 struct DefineLimits {
-    size_t bytes = 4u << 20;
-    size_t keys = 100000;
+    size_t bytes = 4u << 20;  ///< of a file; of a text, its 16-bit units
+    size_t keys = 100000;     ///< lines with a key or a section header
 };
 VXPLATFORM_API DefineLimits& ApartmentDefineLimits();
 
