@@ -1,0 +1,67 @@
+#include <zstd.h>
+
+#include <memory>
+#include <new>
+
+#include "vxgui/base/Error.h"
+#include "vxgui/platform/core7.h"
+
+namespace vxgui::core7 {
+namespace {
+
+// A block of a frame takes four bytes at the least and gives 128 KiB at the most (RFC 8878,
+// section 3.1.1.2), so a short frame cannot hold what a big claim would have us make room for.
+constexpr uint64_t kLeastBlock = 4;
+constexpr uint64_t kMostContent = 128 << 10;
+
+bool IsPlausible(uint64_t content, size_t frame) {
+    return content <= (frame / kLeastBlock + 1) * kMostContent;
+}
+
+// What the frame says that it holds; none for what is no frame, does not say, or cannot be true.
+std::optional<size_t> ClaimedSize(const ByteArray& frame) {
+    const uint64_t claimed = ZSTD_getFrameContentSize(frame.data(), frame.size());
+    if (claimed == ZSTD_CONTENTSIZE_UNKNOWN || claimed == ZSTD_CONTENTSIZE_ERROR) return {};
+    if (claimed > ApartmentDecompressionLimit() || !IsPlausible(claimed, frame.size())) return {};
+    return static_cast<size_t>(claimed);
+}
+
+[[noreturn]] void RaiseOutOfMemory() {
+    throw Error(ErrorNumber::OutOfMemory, "Compressor", "Out of memory");
+}
+
+}  // namespace
+
+ByteArray Compress(const ByteArray& bytes) {
+    const std::unique_ptr<ZSTD_CCtx, size_t (*)(ZSTD_CCtx*)> context(ZSTD_createCCtx(),
+                                                                     ZSTD_freeCCtx);
+    if (!context) RaiseOutOfMemory();
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_checksumFlag, 1);
+    ByteArray frame(ZSTD_compressBound(bytes.size()));
+    const size_t size =
+        ZSTD_compress2(context.get(), frame.data(), frame.size(), bytes.data(), bytes.size());
+    if (ZSTD_isError(size)) RaiseOutOfMemory();  // nothing else can go wrong with room enough
+    frame.resize(size);
+    return frame;
+}
+
+size_t GetSize(const ByteArray& compressed) { return ClaimedSize(compressed).value_or(0); }
+
+std::optional<ByteArray> Decompress(const ByteArray& compressed) try {
+    const std::optional<size_t> claimed = ClaimedSize(compressed);
+    if (!claimed) return {};
+    ByteArray bytes(*claimed);
+    const size_t size =
+        ZSTD_decompress(bytes.data(), bytes.size(), compressed.data(), compressed.size());
+    if (ZSTD_isError(size) || size != bytes.size()) return {};
+    return bytes;
+} catch (const std::bad_alloc&) {
+    return {};
+}
+
+size_t& ApartmentDecompressionLimit() {
+    thread_local size_t limit = 1u << 30;
+    return limit;
+}
+
+}  // namespace vxgui::core7
