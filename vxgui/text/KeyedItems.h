@@ -35,6 +35,8 @@ public:
         int32_t index_;
     };
 
+    /// Adds at the end; a key that is there already raises the collection's error.
+    void Add(const Ref<T>& item, const String& key) { items_.Add(item, key); }
     /// Adds at the end. An item that stands under the key already is taken away first.
     void AddReplacing(const Ref<T>& item, const String& key) {
         if (!key.empty()) Remove(key);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace vxgui {
+
+/// Colours addressed by small numbers from 0, none of them twice.
+class Palette {
+public:
+    /// -1 outside the bounds. Before the first `Add` there are no bounds, and reading raises the
+    /// subscript error.
+    int32_t Colour(int32_t index) const;
+    /// The number of the colour, which is added if it is new.
+    int32_t Add(int32_t colour);
+
+private:
+    std::vector<int32_t> colours_;
+};
+
+}  // namespace vxgui

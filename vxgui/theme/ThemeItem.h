@@ -1,0 +1,247 @@
+#pragma once
+
+#include "vxgui/surface/cAlphaDIBSection.h"
+#include "vxgui/text/LFonts.h"
+#include "vxgui/text/TextStyles.h"
+#include "vxgui/theme/FrameTable.h"
+#include "vxgui/theme/Margin.h"
+#include "vxgui/theme/ThemeEnums.h"
+#include "vxgui/theme/ThemeOwner.h"
+
+namespace vxgui {
+
+class ThemeSet;
+
+/// One skin element: all that is needed to paint one kind of control in any of its states. It
+/// holds a background image cut into frames, a smaller glyph with frames of its own, margins that
+/// say how the image is sliced and where content goes, and for each state a frame, a font, a text
+/// style and a colour. The host sets `State` and calls the drawing operations.
+///
+/// Images are shared, never copied. Sizes are pixels.
+class VXGUI_API ThemeItem : public Object {
+public:
+    ThemeItem();
+
+    // The image strip.
+    uint8_t ImageAlpha() const { return imageAlpha_; }
+    void ImageAlpha(uint8_t value) { imageAlpha_ = value; }
+    Ref<cAlphaDIBSection> Image() const { return image_; }
+    void Image(const Ref<cAlphaDIBSection>& value) { image_ = value; }
+    /// An E_TRANSMODE. Setting `PerPixel` premultiplies the image.
+    int32_t TransMode() const;
+    void TransMode(int32_t value);
+    int32_t FrameCount() const { return frameCount_; }
+    /// Ignored unless above 0.
+    void FrameCount(int32_t value);
+    int32_t FrameOrder() const { return frames_.order; }
+    /// Ignored unless -1, 0 or 1.
+    void FrameOrder(int32_t value);
+    /// Directions and flags read as -1 for true; any value but 0 sets them.
+    int32_t FrameVert() const { return Bit(kFrameVert); }
+    void FrameVert(int32_t value) { Bit(kFrameVert, value); }
+    /// An E_IMAGETILE in the low four bits of `ImageFlags`; a larger value reaches further bits.
+    int32_t Tile() const;
+    void Tile(int32_t value);
+    int32_t TileLeft() const { return Bit(kTileLeft); }
+    void TileLeft(int32_t value) { Bit(kTileLeft, value); }
+    int32_t TileTop() const { return Bit(kTileTop); }
+    void TileTop(int32_t value) { Bit(kTileTop, value); }
+    int32_t TileRight() const { return Bit(kTileRight); }
+    void TileRight(int32_t value) { Bit(kTileRight, value); }
+    int32_t TileBottom() const { return Bit(kTileBottom); }
+    void TileBottom(int32_t value) { Bit(kTileBottom, value); }
+    uint32_t ImageFlags() const { return imageFlags_; }
+    void ImageFlags(uint32_t value) { imageFlags_ = value; }
+    /// The size of one frame.
+    int32_t ImageWidth() const;
+    int32_t ImageHeight() const;
+
+    // The glyph strip.
+    Ref<cAlphaDIBSection> Glyph() const { return glyph_; }
+    void Glyph(const Ref<cAlphaDIBSection>& value) { glyph_ = value; }
+    int32_t GlyphTransMode() const;
+    void GlyphTransMode(int32_t value);
+    int32_t GlyphAlign() const { return glyphAlign_; }
+    void GlyphAlign(int32_t value) { glyphAlign_ = value; }
+    /// A stored value below 1 is first replaced by `FrameCount`.
+    int32_t GlyphFrames();
+    void GlyphFrames(int32_t value) { glyphFrameCount_ = value; }
+    uint8_t GlyphAlpha() const { return glyphAlpha_; }
+    void GlyphAlpha(uint8_t value) { glyphAlpha_ = value; }
+    int32_t GlyphFrameVert() const { return Bit(kGlyphFrameVert); }
+    void GlyphFrameVert(int32_t value) { Bit(kGlyphFrameVert, value); }
+
+    // Composite setters.
+    /// A colour key with an alpha below 253 becomes per-pixel alpha at once.
+    void SetImage(const Ref<cAlphaDIBSection>& adib, int32_t FrameCount, int32_t FrameVert,
+                  int32_t TransMode, uint8_t Alpha = 255, int32_t TransColor = DefaultTransColor);
+    void SetImagePicture(const Ref<ole::Picture>& Picture, int32_t FrameCount, int32_t FrameVert,
+                         int32_t TransMode, uint8_t Alpha = 255,
+                         int32_t TransColor = DefaultTransColor);
+    void SetGlyph(const Ref<cAlphaDIBSection>& adib, int32_t FrameCount, int32_t FrameVert,
+                  int32_t TransMode, uint8_t Alpha = 255, int32_t TransColor = DefaultTransColor,
+                  int32_t GlyphAlign = LeftCenter);
+    void SetGlyphImage(const Ref<cAlphaDIBSection>& adib, int32_t Frames = 0,
+                       int32_t GlyphTransMode = 0, int32_t GlyphAlign = LeftCenter);
+    void SetGlyphImagePicture(const Ref<ole::Picture>& Picture, int32_t Frames,
+                              int32_t GlyphTransMode, int32_t GlyphAlign = LeftCenter);
+    void SetTile(int32_t Tile, int32_t TileLeft = 0, int32_t TileTop = 0, int32_t TileRight = 0,
+                 int32_t TileBottom = 0);
+
+    // Margins.
+    void SetImageMargin(int32_t Left = 0, int32_t Top = 0, int32_t Right = 0, int32_t Bottom = 0);
+    void SetGlyphMargin(int32_t Left = 0, int32_t Top = 0, int32_t Right = 0, int32_t Bottom = 0);
+    void GetGlyphMargin(int32_t& Left, int32_t& Top, int32_t& Right, int32_t& Bottom) const;
+    void SetIconMargin(int32_t Left = 0, int32_t Top = 0, int32_t Right = 0, int32_t Bottom = 0);
+    void GetIconMargin(int32_t& Left, int32_t& Top, int32_t& Right, int32_t& Bottom) const;
+    void SetContentMargin(int32_t Left = 0, int32_t Top = 0, int32_t Right = 0, int32_t Bottom = 0);
+    void GetContentMargin(int32_t& Left, int32_t& Top, int32_t& Right, int32_t& Bottom) const;
+    int32_t ContentLeft() const { return contentMargin_.left; }
+    void ContentLeft(int32_t value) { contentMargin_.left = value; }
+    int32_t ContentTop() const { return contentMargin_.top; }
+    void ContentTop(int32_t value) { contentMargin_.top = value; }
+    int32_t ContentRight() const { return contentMargin_.right; }
+    void ContentRight(int32_t value) { contentMargin_.right = value; }
+    int32_t ContentBottom() const { return contentMargin_.bottom; }
+    void ContentBottom(int32_t value) { contentMargin_.bottom = value; }
+    int32_t ImageMarginLeft() const { return imageMargin_.left; }
+    void ImageMarginLeft(int32_t value) { imageMargin_.left = value; }
+    int32_t ImageMarginTop() const { return imageMargin_.top; }
+    void ImageMarginTop(int32_t value) { imageMargin_.top = value; }
+    int32_t ImageMarginRight() const { return imageMargin_.right; }
+    void ImageMarginRight(int32_t value) { imageMargin_.right = value; }
+    int32_t ImageMarginBottom() const { return imageMargin_.bottom; }
+    void ImageMarginBottom(int32_t value) { imageMargin_.bottom = value; }
+
+    // The icon.
+    int32_t IconAlign() const { return iconAlign_; }
+    void IconAlign(int32_t value) { iconAlign_ = value; }
+    int32_t IconTransMode() const { return iconTransMode_; }
+    void IconTransMode(int32_t value) { iconTransMode_ = value; }
+    int32_t IconWidth() const { return iconWidth_; }
+    void IconWidth(int32_t value) { iconWidth_ = value; }
+    int32_t IconHeight() const { return iconHeight_; }
+    void IconHeight(int32_t value) { iconHeight_ = value; }
+    /// A free number for the host.
+    int32_t BackgroundEffect() const { return backgroundEffect_; }
+    void BackgroundEffect(int32_t value) { backgroundEffect_ = value; }
+
+    // States.
+    int32_t State() const { return state_; }
+    /// Also fixes the frames that drawing with frame -1 uses, until `State` is set again.
+    void State(int32_t value);
+    /// The nine entries of the item's own frame table, whatever `FrameOrder` is.
+    ByteArray StateFrames() const;
+    /// An array of frames, one for each state; the item then goes by its own table.
+    void StateFrames(const Variant& value) { frames_.Assign(value); }
+    /// The frame of a state with all fallbacks; 255 for none.
+    int32_t StateFrame(int32_t State) const;
+    ByteArray GlyphStateFrames() const;
+    void GlyphStateFrames(const Variant& value) { glyphFrames_.Assign(value); }
+    int32_t GlyphStateFrame(int32_t State) const;
+    /// "Normal", "MouseOver" ...; "State_#" and the number for any other value.
+    static String StateName(int32_t State);
+
+    // Colours, fonts and styles of the states.
+    /// 0 without an owner.
+    int32_t StateColour(int32_t State) const;
+    int32_t CurrentColour() const { return StateColour(state_); }
+    Ref<vxgui::TextStyles> TextStyles();
+    void TextStyles(const Ref<vxgui::TextStyles>& value) { textStyles_ = value; }
+    /// Leaves the collection empty, whatever it is given.
+    void LetTextStyles(const Ref<vxgui::TextStyles>& value);
+    /// The state's own entry, or none.
+    Ref<TextStyle> StateTextStyle(int32_t State) const;
+    void StateTextStyle(int32_t State, const Ref<TextStyle>& value);
+    /// The style to draw with; never none.
+    Ref<TextStyle> GetStateTextStyle(int32_t State) const;
+    Ref<TextStyle> CurrentTextStyle() const { return GetStateTextStyle(state_); }
+    /// Drops the entries that say no more than the Normal one.
+    void MinimizeTextStyles();
+    Ref<LFonts> Fonts();
+    void Fonts(const Ref<LFonts>& value) { fonts_ = value; }
+    void LetFonts(const Ref<LFonts>& value);
+    Ref<LFont> StateFont(int32_t State) const;
+    void StateFont(int32_t State, const Ref<LFont>& value);
+    Ref<LFont> GetStateFont(int32_t State) const;
+    Ref<LFont> CurrentFont() const { return GetStateFont(state_); }
+    void MinimizeFonts();
+
+    // Drawing.
+    /// Image and glyph by one frame number.
+    void Draw(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t Frame);
+    /// A frame of -1 is that of `State`. Frames that the strips don't have paint nothing.
+    void DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t Frame,
+                        int32_t GlyphFrame);
+
+    // For the library's own classes.
+    VXGUI_LOCAL Ref<ThemeOwner> Owner() const { return owner_; }
+    VXGUI_LOCAL void Owner(const Ref<ThemeOwner>& value) { owner_ = value; }
+    VXGUI_LOCAL int32_t CurrentFrame() const { return currentFrame_; }
+    VXGUI_LOCAL int32_t CurrentGlyphFrame() const { return currentGlyphFrame_; }
+    /// The colour and font numbers that an importer sets.
+    struct OwnerNumbers {
+        int32_t TextColour = 0, TextColourOver = 0;
+        int32_t NormalColour = 0, PressedColour = 0, FocusColour = 0, FocusPressedColour = 0;
+        int32_t GroupColour = 0, DisabledColour = 0;
+        int32_t NormalFont = 0, PressedFont = 0, FocusFont = 0, FocusPressedFont = 0;
+        int32_t GroupFont = 0;
+    };
+    VXGUI_LOCAL OwnerNumbers& Numbers() { return numbers_; }
+    /// Reads a section of a theme-set define file. Pictures lie in `BasePath`; fonts and styles
+    /// are those of `Set`. A list with fewer parts than it must have raises.
+    VXGUI_LOCAL void FromThemeDefine(const Ref<core7::DefineFile>& DefineFile,
+                                     const String& Section, const Ref<ThemeSet>& Set,
+                                     const String& BasePath);
+
+protected:
+    ~ThemeItem() override;
+
+private:
+    // Bits of `ImageFlags`; their places are part of the file format.
+    static constexpr uint32_t kTileMask = 0xF, kTileLeft = 0x10, kTileTop = 0x20, kTileRight = 0x40,
+                              kTileBottom = 0x80, kGlyphFrameVert = 0x04000000,
+                              kGlyphTrans = 0x08000000, kGlyphPerPixel = 0x10000000,
+                              kFrameVert = 0x20000000, kTrans = 0x40000000, kPerPixel = 0x80000000;
+
+    int32_t Bit(uint32_t mask) const { return imageFlags_ & mask ? -1 : 0; }
+    void Bit(uint32_t mask, int32_t value);
+    void StoreMode(int32_t value, uint32_t transBit, uint32_t perPixelBit);
+    int32_t ColourNumber(int32_t state) const;
+    int32_t FontNumber(int32_t state) const;
+    void PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t frame);
+    void PaintGlyph(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t frame);
+    void PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t xS,
+                         int32_t yS, int32_t wS, int32_t hS);
+    void ReadImage(core7::DefineFile& file, const String& section, const String& basePath);
+    void ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath);
+
+    int32_t state_ = 0;
+    FrameTable frames_;
+    FrameTable glyphFrames_;
+    Ref<LFonts> fonts_;
+    Ref<vxgui::TextStyles> textStyles_;
+    Ref<ThemeOwner> owner_;
+    Ref<cAlphaDIBSection> image_;
+    Ref<cAlphaDIBSection> glyph_;
+    int32_t glyphFrameCount_ = 0;
+    uint8_t glyphAlpha_ = 255;
+    int32_t glyphAlign_ = LeftCenter;
+    Margin imageMargin_{4, 4, 4, 4};
+    Margin contentMargin_;
+    Margin glyphMargin_;
+    Margin iconMargin_;
+    int32_t iconWidth_ = 0;
+    int32_t iconHeight_ = 0;
+    int32_t iconAlign_ = Lefttop;
+    int32_t iconTransMode_ = 0;
+    int32_t backgroundEffect_ = 0;
+    uint32_t imageFlags_ = 0;
+    uint8_t imageAlpha_ = 255;
+    OwnerNumbers numbers_;
+    int32_t frameCount_ = 0;
+    int32_t currentFrame_ = 0;
+    int32_t currentGlyphFrame_ = 0;
+};
+
+}  // namespace vxgui

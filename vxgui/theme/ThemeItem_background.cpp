@@ -1,0 +1,161 @@
+#include <algorithm>
+
+#include "vxgui/theme/NineSlice.h"
+#include "vxgui/theme/RectLayout.h"
+#include "vxgui/theme/ThemeItem.h"
+
+namespace vxgui {
+namespace {
+
+struct FrameRect {
+    Span x;
+    Span y;
+};
+
+// Pixels left over by the division are never shown.
+FrameRect FrameOf(const cAlphaDIBSection& strip, int32_t count, bool vertical, int32_t frame) {
+    FrameRect rect{{0, strip.Width()}, {0, strip.Height()}};
+    if (count < 2) return rect;
+    Span& along = vertical ? rect.y : rect.x;
+    along.size /= count;
+    along.start = along.size * frame;
+    return rect;
+}
+
+// Walks a band in steps of its source, the last one cut; or takes it whole, to be stretched.
+template <class Paint>
+void ForEachStep(const Band& band, bool tiled, Paint paint) {
+    if (!tiled) return paint(band.target, band.source);
+    const int64_t end = int64_t{band.target.start} + band.target.size;
+    for (int64_t at = band.target.start; at < end; at += band.source.size) {
+        const auto size = static_cast<int32_t>(std::min<int64_t>(band.source.size, end - at));
+        paint(Span{static_cast<int32_t>(at), size}, Span{band.source.start, size});
+    }
+}
+
+// Calls `paint(target x, target y, source x, source y)` for each step of a piece.
+template <class Paint>
+void ForEachPiece(const Band& x, const Band& y, bool tiledX, bool tiledY, Paint paint) {
+    if (x.target.size <= 0 || y.target.size <= 0) return;
+    ForEachStep(y, tiledY, [&](Span targetY, Span sourceY) {
+        ForEachStep(x, tiledX,
+                    [&](Span targetX, Span sourceX) { paint(targetX, targetY, sourceX, sourceY); });
+    });
+}
+
+Span Part(Span span, int32_t offset, int32_t size) { return {span.start + offset, size}; }
+
+// The middle once at its size in the centre of the area, the rest filled with its first pixel.
+template <class Paint>
+void CopyAndFill(const Band& x, const Band& y, Paint paint) {
+    const Span wide = x.target, high = y.target;
+    const Span pixelX{x.source.start, 1}, pixelY{y.source.start, 1};
+    const int32_t left = (wide.size - x.source.size) / 2, top = (high.size - y.source.size) / 2;
+    const bool spareX = wide.size > x.source.size, spareY = high.size > y.source.size;
+    // Where there is no room to spare the whole area is copied, centred in the source. As the
+    // source was cut to the area before, these offsets come out as 0.
+    const Span copyX = spareX ? Part(wide, left, x.source.size) : wide;
+    const Span copyY = spareY ? Part(high, top, y.source.size) : high;
+    const Span fromX =
+        spareX ? x.source : Part(x.source, (x.source.size - wide.size) / 2, wide.size);
+    const Span fromY =
+        spareY ? y.source : Part(y.source, (y.source.size - high.size) / 2, high.size);
+    if (spareY) paint(wide, Part(high, 0, top), pixelX, pixelY);
+    if (spareX) paint(Part(wide, 0, left), copyY, pixelX, pixelY);
+    paint(copyX, copyY, fromX, fromY);
+    if (spareX) {
+        const int32_t used = left + x.source.size;
+        paint(Part(wide, used, wide.size - used), copyY, pixelX, pixelY);
+    }
+    if (spareY) {
+        const int32_t used = top + y.source.size;
+        paint(wide, Part(high, used, high.size - used), pixelX, pixelY);
+    }
+}
+
+template <class Paint>
+void PaintCentre(const Band& x, const Band& y, int32_t tile, Paint paint) {
+    if (x.target.size <= 0 || y.target.size <= 0) return;
+    if (tile == CopyXYFillRest) return CopyAndFill(x, y, paint);
+    // A single pixel is stretched: the cheap way to fill.
+    const bool tiledX = (tile == TileXTileY || tile == TileXStretchY) && x.source.size > 1;
+    const bool tiledY = (tile == TileXTileY || tile == StretchXTileY) && y.source.size > 1;
+    ForEachPiece(x, y, tiledX, tiledY, paint);
+}
+
+}  // namespace
+
+void ThemeItem::Draw(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t Frame) {
+    DrawBackground(hDC, xD, yD, wD, hD, Frame, Frame);
+}
+
+void ThemeItem::DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
+                               int32_t Frame, int32_t GlyphFrame) {
+    const KeepAlive keep(this);
+    if (image_) {
+        const int32_t frame = Frame == -1 ? currentFrame_ : Frame;
+        if (frame >= 0 && frame < frameCount_) PaintImage(hDC, xD, yD, wD, hD, frame);
+    }
+    if (glyph_) {
+        const int32_t frame = GlyphFrame == -1 ? currentGlyphFrame_ : GlyphFrame;
+        const int32_t count = GlyphFrames();
+        if (frame >= 0 && frame < count) PaintGlyph(hDC, xD, yD, wD, hD, frame);
+    }
+}
+
+void ThemeItem::PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
+                           int32_t frame) {
+    const FrameRect rect = FrameOf(*image_, frameCount_, FrameVert(), frame);
+    const SlicedAxis x = SliceAxis({xD, wD}, rect.x, imageMargin_.left, imageMargin_.right);
+    const SlicedAxis y = SliceAxis({yD, hD}, rect.y, imageMargin_.top, imageMargin_.bottom);
+    const bool canTileX = x.middle.source.size > 1, canTileY = y.middle.source.size > 1;
+    const auto paint = [&](Span targetX, Span targetY, Span sourceX, Span sourceY) {
+        PaintImagePiece(hDC, targetX.start, targetY.start, targetX.size, targetY.size,
+                        sourceX.start, sourceY.start, sourceX.size, sourceY.size);
+    };
+    ForEachPiece(x.near, y.near, false, false, paint);
+    ForEachPiece(x.middle, y.near, TileTop() && canTileX, false, paint);
+    ForEachPiece(x.far, y.near, false, false, paint);
+    ForEachPiece(x.near, y.middle, false, TileLeft() && canTileY, paint);
+    PaintCentre(x.middle, y.middle, Tile(), paint);
+    ForEachPiece(x.far, y.middle, false, TileRight() && canTileY, paint);
+    ForEachPiece(x.near, y.far, false, false, paint);
+    ForEachPiece(x.middle, y.far, TileBottom() && canTileX, false, paint);
+    ForEachPiece(x.far, y.far, false, false, paint);
+}
+
+void ThemeItem::PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
+                                int32_t xS, int32_t yS, int32_t wS, int32_t hS) {
+    if (!image_) return;
+    // An alpha of 0 doesn't hide the item: like 253 and above it paints the cheap, opaque way.
+    const bool translucent = imageAlpha_ >= 1 && imageAlpha_ <= 252;
+    if (imageFlags_ & kPerPixel) {
+        image_->AlphaPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, imageAlpha_, true);
+    } else if (translucent) {
+        image_->AlphaPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, imageAlpha_, false);
+    } else if (imageFlags_ & kTrans) {
+        image_->TransPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, image_->TransparentColor());
+    } else {
+        image_->PaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, gdi::SRCCOPY);
+    }
+}
+
+void ThemeItem::PaintGlyph(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
+                           int32_t frame) {
+    const FrameRect rect = FrameOf(*glyph_, glyphFrameCount_, GlyphFrameVert(), frame);
+    const int32_t w = rect.x.size, h = rect.y.size, xS = rect.x.start, yS = rect.y.start;
+    const Span areaX = Deflate({xD, wD}, glyphMargin_.left, glyphMargin_.right);
+    const Span areaY = Deflate({yD, hD}, glyphMargin_.top, glyphMargin_.bottom);
+    const int32_t x = AlignAlong(areaX, w, glyphAlign_ / 3),
+                  y = AlignAlong(areaY, h, glyphAlign_ % 3);
+    if (imageFlags_ & kGlyphPerPixel) {
+        const bool hasAlpha = glyph_->HasAlphaChannel(0, 0, -1, -1);
+        glyph_->AlphaPaintPicture(hDC, x, y, w, h, xS, yS, w, h, glyphAlpha_, hasAlpha);
+    } else if (imageFlags_ & kGlyphTrans) {
+        glyph_->TransPaintPicture(hDC, x, y, w, h, xS, yS, w, h, glyph_->TransparentColor());
+    } else {
+        glyph_->PaintPicture(hDC, x, y, w, h, xS, yS, w, h, gdi::SRCCOPY);
+    }
+}
+
+}  // namespace vxgui

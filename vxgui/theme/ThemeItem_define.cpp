@@ -1,0 +1,132 @@
+#include <array>
+
+#include "vxgui/base/NumberText.h"
+#include "vxgui/base/Rounding.h"
+#include "vxgui/text/ColorText.h"
+#include "vxgui/theme/ThemeItem.h"
+#include "vxgui/theme/ThemeSet.h"
+
+namespace vxgui {
+namespace {
+
+// The section that is being read, with the two kinds of read that it is made of.
+struct SectionReader {
+    core7::DefineFile& file;
+    const String& section;
+
+    String Text(const char* key) const { return file.GetString(section, key, ""); }
+    int32_t Integer(const char* key, const String& fallback) const {
+        return file.GetInteger(section, key, fallback);
+    }
+    int32_t Colour(const char* key) const {
+        String text = Text(key);
+        return ParseColorText(text);
+    }
+};
+
+// The numbers of a list. It must have at least `Count` parts; more are ignored.
+template <size_t Count>
+std::array<int32_t, Count> ListOf(const String& list) {
+    const std::vector<String> parts = list.Split(u',');
+    if (parts.size() < Count)
+        throw Error(ErrorNumber::Subscript, "ThemeItem", "List too short: " + list);
+    std::array<int32_t, Count> numbers;
+    for (size_t i = 0; i < Count; ++i) numbers[i] = RoundHalfEven(LeadingNumber(parts[i]));
+    return numbers;
+}
+
+template <class Set>
+void MarginFrom(const SectionReader& read, const char* key, Set set) {
+    const String list = read.Text(key);
+    if (list.empty()) return;
+    const auto [left, top, right, bottom] = ListOf<4>(list);
+    set(left, top, right, bottom);
+}
+
+Variant PartsOf(const String& list) {
+    VariantArray parts;
+    for (const String& part : list.Split(u',')) parts.push_back(part);
+    return parts;
+}
+
+// A surface with the picture on it, or none when it can't be loaded. The background stands under
+// translucent pixels while the file is decoded.
+Ref<cAlphaDIBSection> Load(const String& basePath, const String& name, int32_t background) {
+    Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
+    surface->TransparentColor(background);
+    const String path = core7::ThePathService().TheFileSystem().BuildPath(basePath, name);
+    return surface->CreateFromPictureFile(path) ? surface : nullptr;
+}
+
+// Shares the pool's items with the states: the n-th number of the list belongs to state n.
+template <class Pool>
+void Share(const String& list, const char* prefix, const Ref<Pool>& pool, const Ref<Pool>& own) {
+    if (list.empty()) return;
+    if (!pool) throw Error(ErrorNumber::ObjectNotSet, "ThemeItem", String("No pool for ") + prefix);
+    int32_t state = 0;
+    for (const String& part : list.Split(u',')) {
+        const auto number = RoundHalfEven(LeadingNumber(part));
+        const auto item = pool->Item(NumberedSection(prefix, number));
+        if (item) own->AddItem(item, ThemeItem::StateName(state));
+        ++state;
+    }
+}
+
+}  // namespace
+
+void ThemeItem::ReadImage(core7::DefineFile& file, const String& section, const String& basePath) {
+    const SectionReader read{file, section};
+    const String name = read.Text("Image");
+    if (name.empty()) return;
+    const Ref<cAlphaDIBSection> surface = Load(basePath, name, read.Colour("ImageBackColor"));
+    if (!surface) return;
+    if (read.Integer("PreMultiplyAlpha", "0") != 0) surface->PreMultiplyAlpha();
+    image_ = surface;
+    frameCount_ = read.Integer("Frames", "0");
+    FrameVert(read.Integer("FrameVert", "0"));
+    TransMode(read.Integer("TransMode", "2"));
+    imageAlpha_ = static_cast<uint8_t>(read.Integer("ImageAlpha", "255"));
+    if (!read.Text("TransColor").empty()) image_->TransparentColor(read.Colour("TransColor"));
+    MarginFrom(read, "ImageMargin", [&](auto... sides) { SetImageMargin(sides...); });
+    if (const String list = read.Text("ImageTile"); !list.empty()) {
+        const auto [tile, left, top, right, bottom] = ListOf<5>(list);
+        SetTile(tile, left, top, right, bottom);
+    }
+}
+
+void ThemeItem::ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath) {
+    const SectionReader read{file, section};
+    const String name = read.Text("GlyphImage");
+    if (name.empty()) return;
+    const Ref<cAlphaDIBSection> surface = Load(basePath, name, read.Colour("GlyphBackColor"));
+    if (!surface) return;
+    if (read.Integer("GlyphPreMultiplyAlpha", "0") != 0) surface->PreMultiplyAlpha();
+    glyph_ = surface;
+    glyphFrameCount_ = read.Integer("GlyphFrames", String::FromInt(frameCount_));
+    GlyphFrameVert(read.Integer("GlyphFrameVert", "0"));
+    GlyphTransMode(read.Integer("GlyphTransMode", "2"));
+    glyphAlpha_ = static_cast<uint8_t>(read.Integer("GlyphAlpha", "255"));
+    if (!read.Text("GlyphTransColor").empty()) {
+        glyph_->TransparentColor(read.Colour("GlyphTransColor"));
+    }
+    MarginFrom(read, "GlyphMargin", [&](auto... sides) { SetGlyphMargin(sides...); });
+    glyphAlign_ = read.Integer("GlyphAlign", "");
+}
+
+void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const String& Section,
+                                const Ref<ThemeSet>& Set, const String& BasePath) {
+    ReadImage(*DefineFile, Section, BasePath);
+    ReadGlyph(*DefineFile, Section, BasePath);
+    const SectionReader read{*DefineFile, Section};
+    MarginFrom(read, "ContentMargin", [&](auto... sides) { SetContentMargin(sides...); });
+    // Here the keys hold lists of frames, one for each state.
+    if (const String list = read.Text("FrameOrder"); !list.empty()) StateFrames(PartsOf(list));
+    if (const String list = read.Text("GlyphFrameOrder"); !list.empty())
+        GlyphStateFrames(PartsOf(list));
+    fonts_ = New<LFonts>();
+    Share(read.Text("Fonts"), "Font_", Set->Fonts(), fonts_);
+    textStyles_ = New<vxgui::TextStyles>();
+    Share(read.Text("TextStyles"), "TextStyle_", Set->TextStyles(), textStyles_);
+}
+
+}  // namespace vxgui

@@ -1,0 +1,15 @@
+#include "vxgui/theme/ThemeItems.h"
+
+namespace vxgui {
+
+ThemeItems::ThemeItems() = default;
+ThemeItems::~ThemeItems() = default;
+
+void ThemeItems::AddItem(const Ref<ThemeItem>& Item, const String& sKey) { items_.Add(Item, sKey); }
+Ref<ThemeItem> ThemeItems::Item(int32_t index) const { return items_.Item(index); }
+Ref<ThemeItem> ThemeItems::Item(const String& key) const { return items_.Item(key); }
+int32_t ThemeItems::Count() const { return items_.Count(); }
+void ThemeItems::Remove(int32_t index) { items_.Remove(index); }
+void ThemeItems::Remove(const String& key) { items_.Remove(key); }
+
+}  // namespace vxgui
