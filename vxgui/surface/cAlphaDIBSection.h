@@ -1,13 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
 #include "vxgui/base/String.h"
 #include "vxgui/base/Variant.h"
+#include "vxgui/pixels/ARGB.h"
 #include "vxgui/platform/gdi_types.h"
 #include "vxgui/platform/ole.h"
+#include "vxgui/surface/ARGBArray.h"
 #include "vxgui/surface/NineGridRecord.h"
 
 namespace vxgui {
@@ -80,7 +83,8 @@ public:
                                 uint32_t eRop = 0xCC0020);
 
     // Pixels.
-    /// The pixel with `Blue` in the lowest byte; 0 outside the surface.
+    /// The pixel with `Blue` in the lowest byte; 0 outside the pixel memory. A column outside
+    /// the row counts on into the neighbouring ones.
     virtual int32_t GetPixel(int32_t X, int32_t Y);
     /// Does nothing: write through `DIBSectionBitsPtr`.
     virtual void SetPixel(int32_t X, int32_t Y, int32_t Color);
@@ -89,6 +93,11 @@ public:
     /// Premultiplied noise.
     virtual void RandomiseBits(bool bGray = false);
     virtual int32_t DrawEdge(uint32_t edge = 5, uint32_t grfFlags = 15);
+
+    /// A view of the pixel memory, to read and write.
+    virtual ARGBArray GetARGBArray();
+    /// Empties the view; the pixels stay. The result is empty.
+    virtual Variant DestroyARGBArray(ARGBArray& DibBitsArray);
 
     // Painting on a device context. A negative size is the surface's own, except that a
     // destination of `TransPaintPicture` takes the source's.
@@ -134,7 +143,14 @@ public:
     VXGUI_LOCAL bool HasAlphaCached();
     /// Pixels of the colour (in pixel form, 24 bits) become 0, all others opaque black.
     VXGUI_LOCAL void MaskFromColor(int32_t colour);
-    VXGUI_LOCAL const gdi::BITMAPINFOHEADER& Header() const { return header_; }
+    /// The pixels whose memory is really there, in memory order: none when the surface is
+    /// empty or its bitmap has gone, fewer than `Width` times `Height` for a bitmap that a
+    /// stored header made smaller.
+    VXGUI_LOCAL std::span<ARGB> Pixels() const;
+    /// `DIBSectionBitsPtr`, or null once its bitmap has gone.
+    VXGUI_LOCAL void* LiveBits() const;
+    /// Fills the surface with a rectangle of another, which starts `firstRow` rows of memory up.
+    VXGUI_LOCAL void CopyRows(const cAlphaDIBSection& source, int32_t x, int32_t firstRow);
 
 protected:
     ~cAlphaDIBSection() override;
@@ -142,10 +158,15 @@ protected:
 private:
     enum class AlphaState : int32_t { Yes = -1, Unknown = 0, No = 1 };
 
+    void Empty();
+    /// Bytes of the pixel memory, 0 once its bitmap has gone.
+    size_t MemorySize() const;
+
     gdi::HBITMAP hDIB_ = nullptr;
     gdi::HGDIOBJ oldBitmap_ = nullptr;
     gdi::HDC hDC_ = nullptr;
     void* bits_ = nullptr;
+    gdi::HBITMAP bitsOwner_ = nullptr;  ///< the bitmap that `bits_` belongs to
     gdi::HDC compatibleDC_ = nullptr;
     gdi::BITMAPINFOHEADER header_{};
     int32_t transparentColor_ = DefaultTransColor;
