@@ -26,6 +26,7 @@ public:
     Variant(float value) : value_(value) {}
     Variant(double value) : value_(value) {}
     Variant(const char* text) : value_(String(text)) {}
+    Variant(const char16_t* text) : value_(String(text)) {}
     Variant(String text) : value_(std::move(text)) {}
     Variant(ByteArray bytes) : value_(std::move(bytes)) {}
     Variant(VariantArray items) : value_(std::move(items)) {}

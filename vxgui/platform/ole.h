@@ -41,21 +41,23 @@ VXPLATFORM_API Ref<Picture> OleCreatePictureIndirect(gdi::HGDIOBJ handle, int16_
 VXPLATFORM_API Ref<Picture> OleLoadPicture(const void* data, size_t size);
 VXPLATFORM_API Ref<Picture> LoadPicture(const String& filename);
 
-/// The standard font object. Each setter notifies the watcher with the property's name, after
-/// the value has changed, and says nothing when it has not.
+/// The standard font object. Each setter notifies the watcher once, with the name of the property
+/// that was set, after the value has changed; it says nothing when the value is the same.
 class VXPLATFORM_API StdFont : public Object {
 public:
     using Watcher = std::function<void(const String& propertyName)>;
 
     String Name() const { return name_; }
     void Name(const String& value);
+    /// Notified as "CharSet".
     int16_t Charset() const { return charset_; }
     void Charset(int16_t value);
-    /// Points, kept to a ten-thousandth.
+    /// Points, kept to a ten-thousandth. Raises for what is below 0 or no size at all.
     double Size() const { return size_; }
     void Size(double value);
-    /// True from weight 550 up; setting it makes the weight 700 or 400.
-    bool Bold() const { return weight_ >= 550; }
+    /// True from weight 600 up; setting it to what it isn't makes the weight 700 or 400, of which
+    /// "Bold" alone is notified.
+    bool Bold() const { return weight_ >= 600; }
     void Bold(bool value);
     bool Italic() const { return italic_; }
     void Italic(bool value);
@@ -65,7 +67,8 @@ public:
     void Strikethrough(bool value);
     int16_t Weight() const { return weight_; }
     void Weight(int16_t value);
-    /// A font handle of these properties at the screen's resolution; it stays the object's.
+    /// A font handle of these properties at the screen's resolution, made when it is asked for.
+    /// It stays the object's, and ends when a property changes.
     gdi::HFONT hFont() const;
 
     /// One watcher at a time; an empty one ends the watch.
@@ -78,7 +81,8 @@ protected:
 
 private:
     template <class T>
-    void Change(T& field, T value, const char* name);
+    void Change(T& field, const T& value, const char* property);
+    void DropHandle() const;
 
     String name_{"MS Sans Serif"};
     int16_t charset_ = 0;
@@ -91,8 +95,8 @@ private:
     Watcher watcher_;
 };
 
-/// An ordered name-to-value store. Values are Boolean, 32-bit integer, float, text or byte
-/// array. Names are compared without regard to case.
+/// An ordered name-to-value store. Values are Boolean, 32-bit integer, float of either width, text
+/// or byte array. Names are compared without regard to case.
 class VXPLATFORM_API PropertyBag : public Object {
 public:
     PropertyBag();
@@ -100,15 +104,18 @@ public:
     /// The value under `name`, or `fallback` when there is none.
     Variant ReadProperty(const String& name, const Variant& fallback = {}) const;
     /// Stores the value; one that equals `fallback` is not stored, and takes an older one away.
+    /// Replacing a value keeps its place. Raises the type mismatch for a value of another kind.
     void WriteProperty(const String& name, const Variant& value, const Variant& fallback = {});
     bool Has(const String& name) const;
     /// The names in their order.
     std::vector<String> Names() const;
 
-    /// The whole bag as a flat CBOR map (RFC 8949) from text to value.
+    /// The whole bag as a flat CBOR map (RFC 8949) from text to value. Half a surrogate pair in
+    /// a text becomes U+FFFD; everything else comes back as it was.
     ByteArray Contents() const;
-    /// Replaces the bag by what `bytes` hold. Raises, and leaves the bag as it was, for what is
-    /// truncated, nested, of an unknown type or longer than it can be; an empty array empties it.
+    /// Replaces the bag by what `bytes` hold. Raises error 5, with the place, and leaves the bag
+    /// as it was, for what is truncated, nested, of an unknown type, longer than it can be, has a
+    /// name twice or bytes behind its end; an empty array empties the bag.
     void Contents(const ByteArray& bytes);
 
 protected:
