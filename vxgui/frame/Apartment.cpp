@@ -1,10 +1,12 @@
 #include "vxgui/frame/Apartment.h"
 
 #include "vxgui/frame/DllLife.h"
+#include "vxgui/frame/Services.h"
 
 namespace vxgui {
 
 // gDllLife stands last: it goes first at the apartment's end, while all that it needs is there.
+thread_local Services gServices;
 thread_local gdi::HDRAWDIB gDrawDib = nullptr;
 thread_local uintptr_t gGdipToken = 0;
 thread_local kernel::HMODULE gGdiplusModule = nullptr;

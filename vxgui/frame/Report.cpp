@@ -4,6 +4,7 @@
 
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/ErrorBox.h"
+#include "vxgui/frame/Services.h"
 
 namespace vxgui {
 
@@ -19,7 +20,7 @@ String NumberText(int64_t number) {
 }
 
 core7::SystemInformation& SystemInformation() {
-    if (!gSysInfo) gSysInfo = core7::CreateSystemInformation();
+    if (!gSysInfo) gSysInfo = gServices.createSystemInformation();
     return *gSysInfo;
 }
 

@@ -6,7 +6,7 @@
 
 namespace vxgui {
 
-/// A place in the list of the stubs that were ever called unbound.
+/// A stub in the list of those that were ever to be bound.
 struct StubNode {
     void (*unbind)();
     StubNode* next = nullptr;
@@ -38,14 +38,16 @@ public:
 
     bool IsBound() const { return target_.load(std::memory_order_acquire) != &Unbound; }
     /// Where the helper library's bind service writes the target.
-    static corehlp::Slot Place() { return &target_; }
+    static corehlp::Slot Place() {
+        EnlistStub(node_);
+        return &target_;
+    }
 
 private:
     using Target = R (*)(A...);
     static_assert(sizeof(std::atomic<Target>) == sizeof(void*));
 
     static R Unbound(A... arguments) {
-        EnlistStub(node_);
         if constexpr (requires { Binder::FirstCall(Place(), arguments...); }) {
             return Binder::FirstCall(Place(), arguments...);
         } else {

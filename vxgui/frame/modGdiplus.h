@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "vxgui/frame/Stub.h"
-#include "vxgui/platform/kernel.h"
+#include "vxgui/platform/gdiplus.h"
 
 /// The GDI+ flat functions, bound late by name from "GDIPLUS.DLL". A call that finds no target
 /// answers 0, which reads as Ok with nothing done: callers clear their out-arguments first.
@@ -24,27 +24,27 @@ template <ExportName kName>
 struct GdipBinder {
     static bool Bind(corehlp::Slot stub) { return BindGdip(kName.text, stub); }
 };
-/// One flat function, by the name of its export and its signature:
-///
-///     inline constexpr GdipStub<"GdipFlush", int32_t(void* graphics, int32_t intention)>
-///     GdipFlush;
 template <ExportName kName, class Signature>
 using GdipStub = Stub<GdipBinder<kName>, Signature>;
-
-/// The published start-up record.
-struct GdiplusStartupInput {
-    uint32_t GdiplusVersion;
-    void* DebugEventCallback;
-    int32_t SuppressBackgroundThread;
-    int32_t SuppressExternalCodecs;
-};
 
 /// The late-bound flat functions, under the names of their targets.
 namespace flat {
 
-inline constexpr GdipStub<"GdiplusStartup",
-                          int32_t(uintptr_t* token, const GdiplusStartupInput* input, void* output)>
-    GdiplusStartup;
+/// One flat function: the supplier declares it, and its name is the name of the export.
+#define VXGUI_FLAT(Name) inline constexpr GdipStub<#Name, decltype(gdiplus::Name)> Name
+
+VXGUI_FLAT(GdiplusStartup);
+VXGUI_FLAT(GdipLoadImageFromFile);
+VXGUI_FLAT(GdipCreateBitmapFromFile);
+VXGUI_FLAT(GdipCreateBitmapFromStream);
+VXGUI_FLAT(GdipDisposeImage);
+VXGUI_FLAT(GdipGetImageWidth);
+VXGUI_FLAT(GdipGetImageHeight);
+VXGUI_FLAT(GdipCreateHBITMAPFromBitmap);
+VXGUI_FLAT(GdipBitmapLockBits);
+VXGUI_FLAT(GdipBitmapUnlockBits);
+
+#undef VXGUI_FLAT
 
 }  // namespace flat
 }  // namespace vxgui

@@ -4,6 +4,7 @@
 #include "vxgui/frame/DllLife.h"
 #include "vxgui/frame/ErrorBox.h"
 #include "vxgui/frame/Report.h"
+#include "vxgui/frame/Services.h"
 #include "vxgui/frame/modGdiplus.h"
 #include "vxgui/frame/modMsvfw32.h"
 
@@ -18,24 +19,37 @@ void TraceLine(const char* text) {
     if (gTrace) gTrace->Write(text, kTraceLevel);
 }
 
+template <class T>
+T& Needed(const Ref<T>& object) {
+    if (object) return *object;
+    throw Error(ErrorNumber::ObjectNotSet, "modUtilities", "Object variable not set");
+}
+
 bool StartGdiplus(uint32_t version) {
-    GdiplusStartupInput input{};
+    gdiplus::GdiplusStartupInput input{};
     input.GdiplusVersion = version;
     uintptr_t token = 0;
-    if (flat::GdiplusStartup(&token, &input, nullptr) != 0) return false;
+    if (flat::GdiplusStartup(&token, &input, nullptr) != gdiplus::Ok) return false;
     gGdipToken = token;
     return true;
 }
 
+thread_local bool gSetUp = false;
+
 }  // namespace
 
 void Main() {
+    gSetUp = true;
     const auto step = [](auto body) { ReportError.Guard("Public Sub Main", body); };
-    step([] { gTrace = core7::CreateTrace(); });
-    step([] { gTrace->Start(kApplicationTitle, 1); });
-    step([] { gSysInfo = core7::CreateSystemInformation(); });
-    step([] { gUseSystemAlphaBlend = gSysInfo->PrefersSystemAlphaBlend(); });
+    step([] { gTrace = gServices.createTrace(); });
+    step([] { Needed(gTrace).Start(kApplicationTitle, 1); });
+    step([] { gSysInfo = gServices.createSystemInformation(); });
+    step([] { gUseSystemAlphaBlend = Needed(gSysInfo).PrefersSystemAlphaBlend(); });
     step([] { gDllLife = New<DllLife>(); });
+}
+
+void SetUpApartment() {
+    if (!gSetUp) Main();
 }
 
 bool GDIPlusInitialize() {

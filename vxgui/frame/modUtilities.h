@@ -2,10 +2,13 @@
 
 namespace vxgui {
 
-/// The start-up of an apartment: trace, system information, DrawDib and GDI+. It runs when the
-/// first object of an apartment is made, on the thread of that apartment. A step that fails is
-/// reported, and the next one runs.
+/// The start-up of an apartment: trace, system information, DrawDib and GDI+. A step that fails
+/// is reported, and the next one runs.
 void Main();
+
+/// Runs `Main` unless it has run in this apartment: the first object that a host makes on a
+/// thread calls this.
+void SetUpApartment();
 
 /// Starts GDI+; true means that a token is held, or that GDI+ can't be bound and a later call
 /// tries again.

@@ -14,6 +14,7 @@ constexpr uint32_t kMajorVersion = 0x0700;
 constexpr uint32_t kOldestBuild = 670;
 constexpr uint16_t kEntryOrdinal = 1;
 constexpr int32_t kAttempts = 5;
+constexpr size_t kLongestFileName = 259;  // what a buffer of 260 holds
 constexpr UINT kExitMissing = 61440;
 constexpr UINT kExitUnfit = 61441;
 
@@ -89,7 +90,7 @@ int32_t CheckCoreHlp(kernel::HMODULE module) {
 
 String CoreHlpFileName() {
     if (!gCoreHlpModule) return PathBesideThisLibrary();
-    return TheKernel().GetModuleFileNameA(gCoreHlpModule);
+    return TheKernel().GetModuleFileNameA(gCoreHlpModule).Left(kLongestFileName);
 }
 
 int32_t BindService(int32_t number, corehlp::Slot stub) {

@@ -180,6 +180,14 @@ TEST_F(ModuleFileTest, OtherModulesHaveNoFileBytes) {
     EXPECT_EQ(ModuleFileBytes(kernel_.GetModuleHandleA("sample.dll")).data, nullptr);
 }
 
+TEST_F(ModuleFileTest, IsFoundInAnyLetterCase) {
+    const std::string path = Write("Skin.DLL", Executable());
+    const HMODULE module = kernel_.LoadLibraryA((folder_ / "skin.dll").string().c_str());
+    ASSERT_NE(module, nullptr);
+    EXPECT_EQ(kernel_.GetModuleFileNameA(module), String(path));
+    EXPECT_TRUE(kernel_.FreeLibrary(module));
+}
+
 TEST_F(ModuleFileTest, StaysUntilEachLoadIsUndone) {
     const std::string path = Write("skin.dll", Executable());
     EXPECT_EQ(kernel_.GetModuleHandleA("skin.dll"), nullptr);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "vxgui/platform/core7.h"
 #include "vxgui/platform/kernel/Folders.h"
 
 namespace vxgui::kernel {
@@ -13,7 +14,8 @@ constexpr std::string_view kEnding = ".dll";
 
 char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-std::string FullPathOfFile(const std::string& path) {
+std::string FullPathOfFile(const std::string& written) {
+    const std::string path = core7::NativePath(written);
     std::error_code failed;
     if (!std::filesystem::is_regular_file(path, failed)) return {};
     return std::filesystem::canonical(path, failed).string();

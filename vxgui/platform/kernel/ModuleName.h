@@ -18,7 +18,8 @@ public:
     /// The full path of the file, as far as there is one: of a name with a folder, that file and
     /// no other; of a bare name, the file beside this library, or else beside the program. The
     /// working folder and search paths play no part, so that a file that happens to lie about
-    /// is never run. A name without an ending gets ".dll". Empty when there is no such file.
+    /// is never run. A name without an ending gets ".dll". A file that differs in letter case alone
+    /// will do. Empty when there is no such file.
     std::string FindFile() const;
 
 private:
