@@ -1,0 +1,10 @@
+#pragma once
+
+#include "vxgui/platform/codecs/ImageDecoder.h"
+
+namespace vxgui::codecs {
+
+bool IsTiff(Bytes bytes);
+std::unique_ptr<ImageDecoder> OpenTiff(Bytes bytes);
+
+}  // namespace vxgui::codecs
