@@ -1,6 +1,5 @@
 #include "vxgui/platform/gdi/Bitmap.h"
 
-#include <cstdlib>
 #include <cstring>
 
 #include "vxgui/platform/gdi_surfaces.h"
@@ -10,9 +9,7 @@ namespace vxgui::gdi {
 Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<ColorTable> colors)
     : GdiObject(kKind), shape_(shape), block_(block), colors_(std::move(colors)) {}
 
-Bitmap::~Bitmap() {
-    if (block_.owned) std::free(block_.bits);
-}
+Bitmap::~Bitmap() { GivePixelsBack(block_); }
 
 PixelTarget Bitmap::Target() const {
     PixelTarget target{block_.bits,   shape_.stride, shape_.width,
@@ -65,7 +62,7 @@ int Bitmap::Record(int size, void* buffer) const {
 
 bool Bitmap::Claim(const DeviceContext* context) {
     const DeviceContext* owner = nullptr;
-    return Permanent() || owner_.compare_exchange_strong(owner, context) || owner == context;
+    return shape_.shared || owner_.compare_exchange_strong(owner, context) || owner == context;
 }
 
 }  // namespace vxgui::gdi

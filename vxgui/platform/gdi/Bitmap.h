@@ -3,18 +3,13 @@
 #include <memory>
 
 #include "vxgui/platform/gdi/GdiObject.h"
+#include "vxgui/platform/gdi/PixelBlocks.h"
 #include "vxgui/platform/gdi/PixelTarget.h"
+#include "vxgui/platform/gdi/Pooled.h"
 
 namespace vxgui::gdi {
 
 class DeviceContext;
-
-/// A block of zeroed pixel memory, or a host's memory that isn't freed.
-struct PixelBlock {
-    uint8_t* bits = nullptr;
-    size_t size = 0;
-    bool owned = false;
-};
 
 /// Size, form and memory of a bitmap.
 struct BitmapShape {
@@ -24,10 +19,11 @@ struct BitmapShape {
     ptrdiff_t stride = 0;  ///< bytes from one row in memory to the next
     bool bottomUp = false;
     bool dibSection = false;
+    bool shared = false;  ///< the stock bitmap, which all contexts may have selected at once
 };
 
 /// A bitmap: a DIB section, a device bitmap or the pixels of a host.
-class Bitmap final : public GdiObject {
+class Bitmap final : public GdiObject, public Pooled<Bitmap> {
 public:
     static constexpr GdiKind kKind = GdiKind::Bitmap;
 

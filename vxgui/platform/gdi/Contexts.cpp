@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 
 #include "vxgui/platform/gdi/DeviceContext.h"
 #include "vxgui/platform/gdi/HandleTable.h"
@@ -14,11 +15,13 @@ HDC EnterContext(std::unique_ptr<DeviceContext> context) {
     return entered ? static_cast<HDC>(entered->Handle()) : nullptr;
 }
 
+// Pixels are aligned words, and rows don't overlap.
 bool RowsHold(const HostPixels& pixels) {
+    constexpr ptrdiff_t kWord = 4;
     if (!pixels.bits || pixels.width <= 0 || pixels.height <= 0) return false;
-    const ptrdiff_t row = ptrdiff_t{pixels.width} * 4;
-    const ptrdiff_t stride = pixels.stride < 0 ? -pixels.stride : pixels.stride;
-    return pixels.height == 1 || (pixels.stride != PTRDIFF_MIN && stride >= row);
+    if (reinterpret_cast<uintptr_t>(pixels.bits) % kWord != 0) return false;
+    if (pixels.stride % kWord != 0 || pixels.stride == PTRDIFF_MIN) return false;
+    return pixels.height == 1 || std::abs(pixels.stride) >= pixels.width * kWord;
 }
 
 }  // namespace
@@ -50,7 +53,9 @@ BOOL DeleteDC(HDC dc) {
     return HandleTable::Retire(*context);
 }
 
-void SetScreenDpi(int dpi) { screenDpi = std::max(dpi, 1); }
+void SetScreenDpi(int dpi) {
+    if (dpi > 0) screenDpi = dpi;
+}
 
 int ScreenDpi() { return screenDpi; }
 

@@ -21,6 +21,7 @@ DeviceContext::DeviceContext() : GdiObject(kKind), host_(false) {
 
 DeviceContext::DeviceContext(GdiRef<Bitmap> pixels) : GdiObject(kKind), host_(true) {
     SelectStock(state);
+    pixels->Claim(this);
     state.bitmap = Selection<Bitmap>(std::move(pixels));
 }
 
@@ -28,8 +29,19 @@ DeviceContext::~DeviceContext() = default;
 
 PixelTarget DeviceContext::Target() const {
     PixelTarget target = state.bitmap->Target();
-    if (!host_ && state.bitmap->Permanent()) target.top = ownPixel_;
+    if (state.bitmap->Shape().shared) target.top = ownPixel_;
     return target;
+}
+
+RECT DeviceContext::DrawableBox() const {
+    const RECT bounds = Target().Bounds();
+    return state.clip ? Intersection(bounds, state.clip->Bounds()) : bounds;
+}
+
+bool DeviceContext::MayDrawAt(int32_t x, int32_t y) const {
+    const RECT bounds = Target().Bounds();
+    return x >= 0 && y >= 0 && x < bounds.right && y < bounds.bottom &&
+           (!state.clip || state.clip->Contains(x, y));
 }
 
 GdiRef<DeviceContext> FindContext(HDC dc) { return Find<DeviceContext>(dc); }

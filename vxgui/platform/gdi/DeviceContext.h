@@ -39,7 +39,7 @@ struct DcState {
 };
 
 /// A device context: a memory context, or one over a host's pixels.
-class DeviceContext final : public GdiObject {
+class DeviceContext final : public GdiObject, public Pooled<DeviceContext> {
 public:
     static constexpr GdiKind kKind = GdiKind::DeviceContext;
 
@@ -52,6 +52,10 @@ public:
     bool IsHost() const { return host_; }
     /// The pixels that the context draws on.
     PixelTarget Target() const;
+    /// The box around all that may be drawn on.
+    RECT DrawableBox() const;
+    /// Whether a pixel lies inside the target and the clip.
+    bool MayDrawAt(int32_t x, int32_t y) const;
 
     DcState state;
     std::vector<DcState> saved;

@@ -9,7 +9,7 @@
 namespace vxgui::gdi {
 
 /// What a handle stands for.
-enum class GdiKind : uint8_t { DeviceContext, Bitmap, Brush, Pen, Font, Region, Icon };
+enum class GdiKind : uint8_t { DeviceContext, Bitmap, Brush, Pen, Font, Region, Icon, DibDrawer };
 
 struct HandleSlot;
 

@@ -71,9 +71,17 @@ HGDIOBJ GetCurrentObject(HDC dc, UINT kind) {
 BOOL DeleteObject(HGDIOBJ handle) {
     const GdiRef<GdiObject> object = FindAny(handle);
     if (!object) return 0;
-    if (object->Kind() == GdiKind::DeviceContext) return DeleteDC(static_cast<HDC>(handle));
-    if (!object->Permanent()) object->Delete();
-    return 1;
+    switch (object->Kind()) {
+        case GdiKind::DeviceContext:
+            return DeleteDC(static_cast<HDC>(handle));
+        case GdiKind::Icon:
+        case GdiKind::DibDrawer:
+            // These have calls of their own to end them.
+            return 0;
+        default:
+            if (!object->Permanent()) object->Delete();
+            return 1;
+    }
 }
 
 int GetObjectA(HGDIOBJ handle, int size, void* buffer) {

@@ -40,6 +40,7 @@ Bitmap* MakeBitmap() {
     shape.width = shape.height = 1;
     shape.depth = 1;
     shape.stride = 2;
+    shape.shared = true;
     return Permanently(std::make_unique<Bitmap>(shape, PixelBlock{pixel, 4, false}));
 }
 

@@ -1,0 +1,67 @@
+#include "vxgui/platform/gdi/BlitAxis.h"
+
+#include <algorithm>
+
+namespace vxgui::gdi {
+namespace {
+
+int64_t StepOf(int64_t extent) { return extent < 0 ? -1 : 1; }
+
+}  // namespace
+
+BlitAxis::BlitAxis(int64_t start, int64_t extent, int64_t sourceStart, int64_t sourceExtent)
+    : start_(start),
+      extent_(extent * StepOf(extent)),
+      step_(StepOf(extent)),
+      sourceStart_(sourceStart),
+      sourceExtent_(sourceExtent * StepOf(sourceExtent)),
+      sourceStep_(StepOf(sourceExtent)),
+      low_(step_ > 0 ? start : start - extent_ + 1),
+      high_(low_ + extent_) {
+    if (sourceExtent_ == 0) high_ = low_;
+}
+
+int64_t BlitAxis::Source(int64_t at) const {
+    const int64_t i = (at - start_) * step_;
+    const int64_t j =
+        extent_ == sourceExtent_ ? i : ((2 * i + 1) * sourceExtent_ - 1) / (2 * extent_);
+    return sourceStart_ + j * sourceStep_;
+}
+
+void BlitAxis::Cut(int64_t low, int64_t high) {
+    low_ = std::max(low_, low);
+    high_ = std::max(low_, std::min(high_, high));
+}
+
+// The first coordinate of [low, high) for which `before` doesn't hold; it holds up to some point
+// and not after it.
+template <class Before>
+int64_t BlitAxis::FirstNot(Before before) const {
+    int64_t low = low_;
+    int64_t high = high_;
+    while (low < high) {
+        const int64_t middle = low + (high - low) / 2;
+        if (before(Source(middle))) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low;
+}
+
+void BlitAxis::CutToSource(int64_t size) {
+    if (step_ == sourceStep_) {
+        low_ = FirstNot([](int64_t source) { return source < 0; });
+        high_ = FirstNot([size](int64_t source) { return source < size; });
+    } else {
+        low_ = FirstNot([size](int64_t source) { return source >= size; });
+        high_ = FirstNot([](int64_t source) { return source >= 0; });
+    }
+}
+
+int64_t BlitAxis::SourceLow() const { return std::min(Source(low_), Source(high_ - 1)); }
+
+int64_t BlitAxis::SourceHigh() const { return std::max(Source(low_), Source(high_ - 1)) + 1; }
+
+}  // namespace vxgui::gdi

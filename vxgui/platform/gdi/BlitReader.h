@@ -1,0 +1,41 @@
+#pragma once
+
+#include "vxgui/platform/gdi/BlitGeometry.h"
+#include "vxgui/platform/gdi/ScratchBlock.h"
+
+namespace vxgui::gdi {
+
+/// Reads the source pixels of a blit in the places where they are shown.
+class BlitReader {
+public:
+    /// `geometry` is cut to the target and the source already and isn't empty.
+    BlitReader(const PixelTarget& source, const BlitGeometry& geometry);
+
+    /// Readies the reader; false when memory runs out. `target` is where the blit writes: a
+    /// source that would be written to on the way is copied first.
+    bool Prepare(const PixelTarget& target);
+
+    bool Plain() const { return columns_ == nullptr; }
+    /// The first source pixel of a row's run; for a plain reader of at least 8 bits a pixel.
+    const uint8_t* Address(int32_t x, int32_t y) const;
+    /// The words shown by the `count` pixels from (x, y) of the target rightwards.
+    void Read(int32_t x, int32_t y, int32_t count, uint32_t* words) const;
+
+private:
+    bool Detach();
+    bool TabulateColumns();
+
+    PixelTarget source_;
+    BlitGeometry geometry_;
+    ScratchBlock copy_;
+    ScratchBlock table_;
+    // The source column of each written column; null for a plain reader.
+    const int32_t* columns_ = nullptr;
+};
+
+/// Whether two views have bytes in common.
+bool ShareMemory(const PixelTarget& a, const PixelTarget& b);
+/// Whether they are the same pixels in the same places.
+bool SamePixels(const PixelTarget& a, const PixelTarget& b);
+
+}  // namespace vxgui::gdi

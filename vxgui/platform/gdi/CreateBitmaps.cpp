@@ -1,0 +1,96 @@
+#include <cstring>
+
+#include "vxgui/platform/gdi/DeviceColors.h"
+#include "vxgui/platform/gdi/DeviceContext.h"
+#include "vxgui/platform/gdi/Dib.h"
+#include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/StockObjects.h"
+#include "vxgui/platform/gdi_surfaces.h"
+
+namespace vxgui::gdi {
+namespace {
+
+GdiRef<Bitmap> MakeBitmap(const BitmapShape& shape, const ColorTable* colors) {
+    const PixelBlock block =
+        TakePixels(static_cast<size_t>(shape.stride) * static_cast<size_t>(shape.height));
+    if (!block.bits) return nullptr;
+    auto table = colors ? std::make_unique<ColorTable>(*colors) : nullptr;
+    return Enter(std::make_unique<Bitmap>(shape, block, std::move(table)));
+}
+
+bool FitsABlock(int64_t stride, int64_t height) {
+    return stride <= static_cast<int64_t>(kLargestPixelBlock) / height;
+}
+
+GdiRef<Bitmap> MakeDibSection(const DibForm& form) {
+    if (!FitsABlock(form.stride, form.height)) return nullptr;
+    BitmapShape shape;
+    shape.width = form.width;
+    shape.height = form.height;
+    shape.depth = form.depth;
+    shape.stride = form.stride;
+    shape.bottomUp = form.bottomUp;
+    shape.dibSection = true;
+    return MakeBitmap(shape, form.Colors());
+}
+
+// Rows of a device bitmap start at even addresses.
+GdiRef<Bitmap> MakeDeviceBitmap(int32_t width, int32_t height, int depth) {
+    BitmapShape shape;
+    shape.width = width;
+    shape.height = height;
+    shape.depth = depth;
+    shape.stride = RowBytes(width, depth, 2);
+    if (!FitsABlock(shape.stride, height)) return nullptr;
+    return MakeBitmap(shape, depth == 8 ? &DeviceColors(8) : nullptr);
+}
+
+HBITMAP HandleOf(const GdiRef<Bitmap>& bitmap) {
+    return bitmap ? static_cast<HBITMAP>(bitmap->Handle()) : nullptr;
+}
+
+// The form of another DIB section, with another size.
+GdiRef<Bitmap> MakeLike(const Bitmap& model, int32_t width, int32_t height) {
+    if (!model.IsDibSection()) return MakeDeviceBitmap(width, height, model.Depth());
+    DibForm form;
+    form.width = width;
+    form.height = height;
+    form.depth = model.Depth();
+    form.stride = RowBytes(width, form.depth, 4);
+    if (model.Colors()) form.colors = *model.Colors();
+    return MakeDibSection(form);
+}
+
+}  // namespace
+
+HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
+    const bool served = bitCount == 1 || bitCount == 8 || bitCount == 24 || bitCount == 32;
+    if (width < 0 || height < 0 || planes != 1 || !served) return nullptr;
+    if (width == 0 || height == 0) return HandleOf(StockBitmap());
+    const GdiRef<Bitmap> bitmap = MakeDeviceBitmap(width, height, static_cast<int>(bitCount));
+    if (bitmap && bits) {
+        std::memcpy(bitmap->Bits(), bits, static_cast<size_t>(bitmap->Shape().stride * height));
+    }
+    return HandleOf(bitmap);
+}
+
+HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
+    const GdiRef<DeviceContext> context = FindContext(dc);
+    if ((dc && !context) || width < 0 || height < 0) return nullptr;
+    if (width == 0 || height == 0) return HandleOf(StockBitmap());
+    if (!context) return HandleOf(MakeDeviceBitmap(width, height, 32));
+    return HandleOf(MakeLike(*context->state.bitmap, width, height));
+}
+
+HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
+                         DWORD) {
+    if (bits) *bits = nullptr;
+    DibForm form;
+    // A file mapping as the memory is another platform's matter.
+    if (section || !ReadDib(info, usage, &form)) return nullptr;
+    const GdiRef<Bitmap> bitmap = MakeDibSection(form);
+    if (bitmap && bits) *bits = bitmap->Bits();
+    return HandleOf(bitmap);
+}
+
+}  // namespace vxgui::gdi
