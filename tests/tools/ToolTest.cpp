@@ -1,0 +1,193 @@
+#include "tools/vxgui/Tool.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "tests/support/Golden.h"
+
+namespace vxgui::tool {
+namespace {
+
+using testing::HasSubstr;
+
+const std::string kSkin = VXGUI_SOURCE_DIR "/skins/aurora/aurora.theme";
+const std::string kFolder = VXGUI_TEST_OUTPUT_DIR "/tool/";
+
+struct Result {
+    int status;
+    std::string out;
+    std::string errors;
+};
+
+Result Run(std::vector<std::string> arguments) {
+    std::ostringstream out, errors;
+    const int status = RunTool(std::move(arguments), out, errors);
+    return {status, out.str(), errors.str()};
+}
+
+std::string WriteSkin(const std::string& name, const std::string& text) {
+    std::filesystem::create_directories(kFolder);
+    std::ofstream(kFolder + name, std::ios::binary) << text;
+    return kFolder + name;
+}
+
+test::TestPicture Rendered(const std::string& item, std::vector<std::string> more) {
+    std::filesystem::create_directories(kFolder);
+    const std::string path = kFolder + item + ".png";
+    std::vector<std::string> arguments{"render", kSkin, "--item", item, "-o", path};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    const Result result = Run(arguments);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    test::TestPicture picture;
+    EXPECT_TRUE(test::ReadPng(path, &picture));
+    return picture;
+}
+
+TEST(ToolHelp, ShowsTheCommandsAndExamples) {
+    const Result result = Run({"--help"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, HasSubstr("gallery"));
+    EXPECT_THAT(result.out, HasSubstr("render"));
+    EXPECT_THAT(result.out, HasSubstr("Examples:"));
+    for (const char* command : {"gallery", "render"}) {
+        const Result help = Run({command, "--help"});
+        EXPECT_EQ(help.status, 0);
+        EXPECT_THAT(help.out, HasSubstr("Example:"));
+    }
+}
+
+TEST(ToolCommandLine, WrongOnesGiveStatusTwo) {
+    const std::vector<std::vector<std::string>> wrong = {
+        {},
+        {"dance"},
+        {"gallery"},
+        {"gallery", kSkin},
+        {"gallery", kSkin, "-o", kFolder + "x.png", "--more"},
+        {"render", kSkin, "-o", kFolder + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--state", "Asleep", "-o", kFolder + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "0x5", "-o", kFolder + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "12", "-o", kFolder + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "12x4z", "-o", kFolder + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--frame", "two", "-o", kFolder + "x.png"},
+    };
+    for (const auto& arguments : wrong) {
+        const Result result = Run(arguments);
+        EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
+        EXPECT_FALSE(result.errors.empty());
+    }
+}
+
+TEST(ToolErrors, AMissingSkinIsNamed) {
+    const Result result = Run({"gallery", "/nowhere/x.theme", "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.theme"));
+}
+
+TEST(ToolErrors, AFileWithoutSectionsIsNoSkin) {
+    const std::string path = WriteSkin("plain.theme", "; nothing here\n");
+    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path + ":1:1: error: no section [ThemeSet]"));
+}
+
+TEST(ToolErrors, ABinaryFileIsNoSkin) {
+    const Result result =
+        Run({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/button.tga", "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("button.tga"));
+}
+
+TEST(ToolErrors, EachMissingImageIsNamedWithItsLine) {
+    const std::string path = WriteSkin("missing.theme",
+                                       "[ThemeSet]\nThemes=2\n[Theme_01]\nFrames=1\nImage=a.png\n["
+                                       "Theme_02]\n  GlyphImage=b.bmp\n");
+    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path + ":5:1: error: image \"a.png\" is not there"));
+    EXPECT_THAT(result.errors, HasSubstr(path + ":7:3: error: image \"b.bmp\" is not there"));
+}
+
+TEST(ToolErrors, ABrokenImageIsToldFromAMissingOne) {
+    WriteSkin("broken.png", "\x89PNG\r\n\x1a\nnonsense");
+    const std::string path =
+        WriteSkin("broken.theme", "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=broken.png\n");
+    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path + ":4:1: error: image \"broken.png\" is no picture"));
+}
+
+TEST(ToolErrors, AListThatIsTooShortIsNamedWithItsSection) {
+    const std::string path =
+        WriteSkin("short.theme", "[ThemeSet]\nThemes=1\n\n[Theme_01]\nContentMargin=1,2\n");
+    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path + ":4:"));
+    EXPECT_THAT(result.errors, HasSubstr("1,2"));
+}
+
+TEST(ToolErrors, AnUnknownItemListsTheNames) {
+    const Result result = Run({"render", kSkin, "--item", "Nothing", "-o", kFolder + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("PushButton"));
+}
+
+TEST(ToolErrors, SizesThatCantBeAreRefused) {
+    for (const char* size : {"100000x100000", "32768x1", "32767x32767"}) {
+        const Result result =
+            Run({"render", kSkin, "--item", "Tab", "--size", size, "-o", kFolder + "x.png"});
+        EXPECT_EQ(result.status, 1) << size;
+        EXPECT_THAT(result.errors, HasSubstr("can't be made"));
+    }
+}
+
+TEST(ToolErrors, AnOutputThatCantBeWrittenIsNamed) {
+    const Result result = Run({"render", kSkin, "--item", "Tab", "-o", "/nowhere/x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.png"));
+}
+
+TEST(ToolRender, KeepsTransparency) {
+    const test::TestPicture button = Rendered("PushButton", {"--size", "120x34"});
+    ASSERT_EQ(button.width, 120);
+    ASSERT_EQ(button.height, 34);
+    EXPECT_EQ(button.At(0, 0) >> 24, 0u);
+    EXPECT_EQ(button.At(60, 17) >> 24, 255u);
+    const test::TestPicture thumb = Rendered("ScrollThumb", {});
+    EXPECT_EQ(thumb.width, 18);
+    EXPECT_EQ(thumb.At(0, 0) >> 24, 0u);
+    EXPECT_EQ(thumb.At(9, 20) >> 24, 255u);
+}
+
+TEST(ToolRender, TakesSectionsNamesAndFrames) {
+    const test::TestPicture a = Rendered("theme_01", {"--state", "pressed"});
+    const test::TestPicture b = Rendered("PUSHBUTTON", {"--frame", "2"});
+    EXPECT_TRUE(test::ComparePictures(a, b, 0).Equal());
+    const test::TestPicture none = Rendered("PushButton", {"--state", "Group"});
+    for (uint32_t pixel : none.pixels) EXPECT_EQ(pixel, 0u);
+}
+
+TEST(ToolGallery, ThePictureOfTheSampleSkinIsAsItWas) {
+    const std::string path = kFolder + "gallery.png";
+    std::filesystem::create_directories(kFolder);
+    const Result result = Run({"gallery", kSkin, "-o", path});
+    ASSERT_EQ(result.status, 0) << result.errors;
+    test::TestPicture picture;
+    ASSERT_TRUE(test::ReadPng(path, &picture));
+    test::ExpectGolden("aurora-gallery", picture);
+}
+
+TEST(ToolRender, EveryItemOfTheSampleSkinIsAsItWas) {
+    for (const char* item : {"PushButton", "CheckBox", "RadioButton", "Tab", "ScrollThumb",
+                             "ScrollArrow", "ProgressTrack", "ProgressBar", "EditFrame", "Panel",
+                             "Banner", "Tooltip", "Header", "StatusBar"}) {
+        test::ExpectGolden(std::string("aurora-") + item,
+                           Rendered(item, {"--size", "150x60", "--state", "MouseOver"}));
+    }
+}
+
+}  // namespace
+}  // namespace vxgui::tool

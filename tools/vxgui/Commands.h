@@ -1,0 +1,15 @@
+#pragma once
+
+#include <ostream>
+
+namespace CLI {
+class App;
+}
+
+namespace vxgui::tool {
+
+// Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`.
+void AddGallery(CLI::App& app, std::ostream& out);
+void AddRender(CLI::App& app, std::ostream& out);
+
+}  // namespace vxgui::tool

@@ -1,0 +1,111 @@
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <memory>
+
+#include "tools/vxgui/Commands.h"
+#include "tools/vxgui/ItemSize.h"
+#include "tools/vxgui/Sheet.h"
+#include "tools/vxgui/Skin.h"
+#include "tools/vxgui/ToolError.h"
+
+namespace vxgui::tool {
+namespace {
+
+struct Options {
+    std::string skin;
+    std::string item;
+    std::string state = "Normal";
+    std::string size;
+    int32_t frame = -1;
+    int32_t glyphFrame = -1;
+    std::string output;
+};
+
+int32_t StateOf(const std::string& name) {
+    std::string known;
+    for (int32_t state = 0; state < E_ItemStateMax; ++state) {
+        if (ThemeItem::StateName(state).EqualsNoCase(name)) return state;
+        known += (state ? ", " : "") + ThemeItem::StateName(state).Utf8();
+    }
+    throw UsageError("--state " + name + ": one of " + known + " was expected");
+}
+
+gdi::SIZE SizeOf(const std::string& text) {
+    gdi::SIZE size{};
+    char rest = 0;
+    const bool two = std::sscanf(text.c_str(), "%d%*[xX]%d%c", &size.cx, &size.cy, &rest) == 2;
+    if (!two || size.cx < 1 || size.cy < 1) {
+        throw UsageError("--size " + text + ": WIDTHxHEIGHT was expected, for example 120x34");
+    }
+    return size;
+}
+
+void Paint(Sheet& sheet, ThemeItem& item, const Options& options, uint32_t ground) {
+    sheet.Fill(ground);
+    item.DrawBackground(sheet.dc(), 0, 0, sheet.width(), sheet.height(), options.frame,
+                        options.glyphFrame);
+}
+
+// What a pixel was to look so on black and so on white: straight colour and alpha. White shines
+// through by 255 - alpha, whatever kind of blit painted it.
+uint32_t Recovered(uint32_t onBlack, uint32_t onWhite) {
+    const auto channel = [](uint32_t pixel, int shift) {
+        return static_cast<int>(pixel >> shift & 255);
+    };
+    int alpha = 0;
+    for (int shift : {0, 8, 16})
+        alpha = std::max(alpha, 255 - channel(onWhite, shift) + channel(onBlack, shift));
+    alpha = std::clamp(alpha, 0, 255);
+    if (alpha == 0) return 0;
+    uint32_t pixel = static_cast<uint32_t>(alpha) << 24;
+    for (int shift : {0, 8, 16}) {
+        const int colour = std::min(255, (channel(onBlack, shift) * 255 + alpha / 2) / alpha);
+        pixel |= static_cast<uint32_t>(colour) << shift;
+    }
+    return pixel;
+}
+
+void RenderItem(const Options& options, std::ostream& out) {
+    const int32_t state = StateOf(options.state);
+    const Skin skin = LoadSkin(options.skin);
+    const Ref<ThemeItem> item = FindItem(skin, options.item);
+    const gdi::SIZE size = options.size.empty() ? OwnSize(*item) : SizeOf(options.size);
+    item->State(state);
+    Sheet black(size.cx, size.cy), white(size.cx, size.cy);
+    Paint(black, *item, options, 0xFF000000);
+    Paint(white, *item, options, 0xFFFFFFFF);
+    for (int32_t y = 0; y < size.cy; ++y) {
+        for (int32_t x = 0; x < size.cx; ++x)
+            black.At(x, y) = Recovered(black.At(x, y), white.At(x, y));
+    }
+    black.WritePng(options.output);
+    out << options.output << ": " << size.cx << "x" << size.cy << "\n";
+}
+
+}  // namespace
+
+void AddRender(CLI::App& app, std::ostream& out) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* command =
+        app.add_subcommand("render", "Paint one item of a skin, with its transparency");
+    command->add_option("SKIN", options->skin, "Define file of a theme set")->required();
+    command->add_option("--item", options->item, "The item's name, or its section")->required();
+    command
+        ->add_option("--state", options->state,
+                     "Normal, MouseOver, Pressed, Disabled, Default, Focus, FocusPressed, Group or "
+                     "FocusMouseOver")
+        ->capture_default_str();
+    command->add_option("--size", options->size,
+                        "WIDTHxHEIGHT in pixels; the item's own size when left out");
+    command->add_option("--frame", options->frame,
+                        "Frame of the image; that of the state when left out");
+    command->add_option("--glyph-frame", options->glyphFrame,
+                        "Frame of the glyph; that of the state when left out");
+    command->add_option("-o,--output", options->output, "PNG file to write")->required();
+    command->footer(
+        "Example:\n  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver "
+        "--size 120x34 -o button.png");
+    command->callback([options, &out] { RenderItem(*options, out); });
+}
+
+}  // namespace vxgui::tool

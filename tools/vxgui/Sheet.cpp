@@ -1,0 +1,65 @@
+#include "tools/vxgui/Sheet.h"
+
+#include <png.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "tools/vxgui/ToolError.h"
+
+namespace vxgui::tool {
+namespace {
+
+constexpr int32_t kLargestSide = 32767;
+constexpr int64_t kLargestArea = int64_t{64} << 20;
+
+size_t CheckedArea(int32_t width, int32_t height) {
+    const int64_t area = int64_t{width} * height;
+    if (width < 1 || height < 1 || width > kLargestSide || height > kLargestSide ||
+        area > kLargestArea) {
+        throw ToolError("error: a picture of " + std::to_string(width) + "x" +
+                        std::to_string(height) +
+                        " can't be made; sides from 1 to 32767 and an area of up to 64 megapixels "
+                        "were expected");
+    }
+    return static_cast<size_t>(area);
+}
+
+}  // namespace
+
+Sheet::Sheet(int32_t width, int32_t height)
+    : width_(width), height_(height), pixels_(CheckedArea(width, height)) {
+    dc_ = gdi::CreateHostDC({pixels_.data(), width, height, std::ptrdiff_t{width} * 4, false});
+}
+
+Sheet::~Sheet() { gdi::DeleteDC(dc_); }
+
+void Sheet::Fill(uint32_t pixel) { std::fill(pixels_.begin(), pixels_.end(), pixel); }
+
+void Sheet::FillChecks(int32_t x, int32_t y, int32_t width, int32_t height) {
+    for (int32_t row = 0; row < height; ++row) {
+        for (int32_t column = 0; column < width; ++column) {
+            const bool dark = (column / 8 + row / 8) % 2 != 0;
+            At(x + column, y + row) = dark ? 0xFFC9CED4 : 0xFFDDE1E6;
+        }
+    }
+}
+
+void Sheet::MakeOpaque() {
+    for (uint32_t& pixel : pixels_) pixel |= 0xFF000000;
+}
+
+void Sheet::WritePng(const std::string& path) const {
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(width_);
+    image.height = static_cast<png_uint_32>(height_);
+    image.format = PNG_FORMAT_BGRA;
+    errno = 0;
+    if (png_image_write_to_file(&image, path.c_str(), 0, pixels_.data(), 0, nullptr)) return;
+    throw ToolError(path +
+                    ": error: can't be written: " + (errno ? std::strerror(errno) : image.message));
+}
+
+}  // namespace vxgui::tool

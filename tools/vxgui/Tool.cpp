@@ -1,0 +1,54 @@
+#include "tools/vxgui/Tool.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "tools/vxgui/Commands.h"
+#include "vxgui/base/Error.h"
+
+namespace vxgui::tool {
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  vxgui gallery skins/aurora/aurora.theme -o gallery.png\n"
+    "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
+    "-o button.png\n"
+    "\n"
+    "Exit status: 0 when all is well, 1 for an error in a file, 2 for a wrong command line.";
+
+constexpr int kFileError = 1;
+constexpr int kWrongCommandLine = 2;
+
+int Parse(CLI::App& app, std::vector<std::string> arguments, std::ostream& out,
+          std::ostream& errors) {
+    std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
+    try {
+        app.parse(std::move(arguments));
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error, out, errors) == 0 ? 0 : kWrongCommandLine;
+    } catch (const UsageError& error) {
+        errors << "vxgui: " << error.what() << "\n";
+        return kWrongCommandLine;
+    } catch (const ToolError& error) {
+        errors << error.what() << "\n";
+        return kFileError;
+    } catch (const std::exception& error) {
+        errors << "vxgui: " << error.what() << "\n";
+        return kFileError;
+    }
+}
+
+}  // namespace
+
+int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
+    CLI::App app("Paints and checks skins.", "vxgui");
+    app.footer(kExamples);
+    app.require_subcommand(1);
+    AddGallery(app, out);
+    AddRender(app, out);
+    return Parse(app, std::move(arguments), out, errors);
+}
+
+}  // namespace vxgui::tool

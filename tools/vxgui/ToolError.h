@@ -1,0 +1,21 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace vxgui::tool {
+
+/// What a user did to a file: the message names the file, the line where there is one, and what
+/// was expected. It may hold several lines.
+class ToolError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A command line that can't be carried out.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+}  // namespace vxgui::tool
