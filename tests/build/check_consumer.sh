@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Installs the build into a folder of its own and builds a project outside the tree against it,
+# once by find_package and once by pkg-config. check_consumer.sh BUILD_DIR SOURCE_DIR
+set -eu
+build=$1 source=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$work/usr" >/dev/null
+cp -r "$source/tests/consumer" "$work/project"
+
+cmake -S "$work/project" -B "$work/by-cmake" -DCMAKE_PREFIX_PATH="$work/usr" >/dev/null
+cmake --build "$work/by-cmake" >/dev/null
+"$work/by-cmake/consumer"
+
+libdir=$(dirname "$(find "$work/usr" -name libvxgui.so)")
+export PKG_CONFIG_PATH="$libdir/pkgconfig" LD_LIBRARY_PATH="$libdir"
+# The file says where the build was configured to go; here it stands elsewhere.
+flags=$(pkg-config --define-variable=prefix="$work/usr" --cflags --libs vxgui)
+${CXX:-c++} -o "$work/by-pkg-config" "$work/project/main.cpp" $flags
+"$work/by-pkg-config"
