@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include "vxgui/platform/kernel.h"
 #include "vxgui/platform/kernel/ResourceFile.h"
@@ -48,6 +49,18 @@ std::string PngPath() {
     Dl_info info{};
     dladdr(reinterpret_cast<void*>(&png_access_version_number), &info);
     return std::filesystem::canonical(info.dli_fname).string();
+}
+
+TEST(BuiltInModule, StandsForEachCompanion) {
+    const std::pair<const char*, const char*> kExports[] = {
+        {"msimg32.dll", "AlphaBlend"},   {"msimg32.dll", "TransparentBlt"},
+        {"msimg32.dll", "GradientFill"}, {"msvfw32.dll", "DrawDibOpen"},
+        {"msvfw32.dll", "DrawDibClose"}, {"msvfw32.dll", "DrawDibDraw"},
+    };
+    for (const auto& [module, name] : kExports) {
+        const HMODULE handle = RealKernel().GetModuleHandleA(module);
+        EXPECT_NE(RealKernel().GetProcAddress(handle, name), nullptr) << name;
+    }
 }
 
 TEST(BuiltInModule, IsAlwaysLoaded) {
@@ -200,6 +213,22 @@ TEST_F(ModuleFileTest, StaysUntilEachLoadIsUndone) {
     EXPECT_TRUE(kernel_.FreeLibrary(module));
     EXPECT_EQ(kernel_.GetModuleHandleA("skin.dll"), nullptr);
     EXPECT_FALSE(kernel_.FreeLibrary(module));
+}
+
+TEST_F(ModuleFileTest, MayBeLoadedAndFreedByManyThreads) {
+    const std::string path = Write("skin.dll", Executable());
+    const auto use = [&] {
+        for (int i = 0; i < 50; ++i) {
+            const HMODULE module = kernel_.LoadLibraryA(path.c_str());
+            EXPECT_EQ(kernel_.GetModuleFileNameA(module), String(path));
+            EXPECT_TRUE(kernel_.FreeLibrary(module));
+        }
+    };
+    std::thread first(use);
+    std::thread second(use);
+    first.join();
+    second.join();
+    EXPECT_EQ(kernel_.GetModuleHandleA(path.c_str()), nullptr);
 }
 
 TEST_F(ModuleFileTest, OfAnotherKindIsRefused) {

@@ -1,7 +1,11 @@
 #include "vxgui/platform/kernel/BuiltInModules.h"
 
+#include "vxgui/platform/gdi/Modules.h"
+
 namespace vxgui::kernel {
 
-std::vector<BuiltInEntry> BuiltInModules() { return {}; }
+std::vector<BuiltInEntry> BuiltInModules() {
+    return {{"msimg32.dll", gdi::kMsImg32Exports}, {"msvfw32.dll", gdi::kMsVfw32Exports}};
+}
 
 }  // namespace vxgui::kernel
