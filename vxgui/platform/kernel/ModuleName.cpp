@@ -21,6 +21,12 @@ std::string FullPathOfFile(const std::string& written) {
     return std::filesystem::canonical(path, failed).string();
 }
 
+/// The file of that name in the folder of `path`. An unknown path has no folder; the working one
+/// must not take its place.
+std::string FileBeside(const std::string& path, const std::string& name) {
+    return path.starts_with('/') ? FullPathOfFile(FolderOf(path) + name) : std::string();
+}
+
 }  // namespace
 
 ModuleName::ModuleName(std::string_view given) : path_(given) {
@@ -34,8 +40,8 @@ std::string ModuleName::FindFile() const {
     if (name.empty()) return {};
     if (name.find('.', FolderOf(name).size()) == std::string::npos) name += kEnding;
     if (HasFolder()) return FullPathOfFile(name);
-    const std::string beside = FullPathOfFile(FolderOf(OwnPath()) + name);
-    return beside.empty() ? FullPathOfFile(FolderOf(ProgramPath()) + name) : beside;
+    const std::string beside = FileBeside(OwnPath(), name);
+    return beside.empty() ? FileBeside(ProgramPath(), name) : beside;
 }
 
 std::string PlainNameOf(const std::string& path) {
