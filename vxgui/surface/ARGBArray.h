@@ -27,10 +27,10 @@ public:
         return pixels_[Element(row, column)];
     }
 
-    /// The pixels of a row from `first` to `last`, both within the row; none when `last` is
-    /// before `first` or the row is outside the array.
+    /// The pixels of a row from `first` to `last`; none when `last` is before `first` or one of
+    /// the three is outside the array.
     std::span<ARGB> Run(int32_t row, int32_t first, int32_t last) const {
-        if (row < 0 || row >= rows_ || last < first) return {};
+        if (row < 0 || row >= rows_ || first < 0 || last < first || last >= columns_) return {};
         return {pixels_ + Element(row, first), static_cast<size_t>(last - first + 1)};
     }
 

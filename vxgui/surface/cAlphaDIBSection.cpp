@@ -7,6 +7,7 @@
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/modUtilities.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/surface/BitmapMemory.h"
 
 namespace vxgui {
 
@@ -39,12 +40,8 @@ void* cAlphaDIBSection::LiveBits() const { return MemorySize() ? bits_ : nullptr
 size_t cAlphaDIBSection::MemorySize() const {
     // Hosts may delete the bitmap under the pointer, and a stored header may describe one of
     // another depth: what counts is the memory that is there now.
-    gdi::BITMAP bitmap;
-    if (!bits_ || !gdi::GetObjectA(bitsOwner_, sizeof bitmap, &bitmap) || bitmap.bmBits != bits_) {
-        return 0;
-    }
-    return static_cast<size_t>(bitmap.bmWidthBytes) *
-           static_cast<size_t>(std::abs(int64_t{bitmap.bmHeight}));
+    const std::span<uint8_t> memory = BitmapMemory(bitsOwner_);
+    return bits_ && memory.data() == bits_ ? memory.size() : 0;
 }
 
 std::span<ARGB> cAlphaDIBSection::Pixels() const {

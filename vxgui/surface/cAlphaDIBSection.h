@@ -131,6 +131,24 @@ public:
     virtual bool HasAlphaChannel(int32_t xStart = 0, int32_t yStart = 0, int32_t xEnd = -1,
                                  int32_t yEnd = -1);
 
+    // Keeping. docs/formats.md has the forms; a block that can't be read gives false and leaves
+    // the surface as it was.
+    virtual void ToByteArray(ByteArray& b, int16_t Flags);
+    virtual bool FromByteArray(const ByteArray& b);
+    virtual bool FromLp(const void* lp, int32_t SIZE);
+    /// The bitmap header and the pixels alone; the compatible context is the screen from then on.
+    virtual bool DibFromLp(const void* lp, int32_t SIZE);
+    virtual void ReadProperties(const Ref<ole::PropertyBag>& PropBag);
+    /// Bit 0 of `Flags` compresses.
+    virtual void WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags = 0);
+    /// A BMP file in memory; false, and the array stays, for a surface without pixels.
+    virtual bool SaveToByteArray(ByteArray& ByteArray);
+    /// Writes a BMP file. Raises when it can't be created; a failed write gives false and leaves
+    /// a part of it.
+    virtual bool SavePicture(const String& sFileName);
+    /// Whether both have the same serialized form: pixels, size, `TransparentColor`, `Flags`.
+    virtual bool Equal(const Ref<cAlphaDIBSection>& Item);
+
     // For the library's own classes.
     /// `Mode`: bits 8 to 11 hold 0x100 for the colour key, 0x200 for alpha, else plain copy; bits
     /// 0 to 7 the constant alpha.
@@ -152,6 +170,13 @@ public:
     /// Fills the surface with a rectangle of another, which starts `firstRow` rows of memory up.
     VXGUI_LOCAL void CopyRows(const cAlphaDIBSection& source, int32_t x, int32_t firstRow);
 
+    /// Writes a BMP file of this surface's header and the pixels at `bits`, which are as many as
+    /// the surface has.
+    VXGUI_LOCAL bool SaveToBmpFile(const void* bits, const String& name);
+    VXGUI_LOCAL static String SystemErrorText(uint32_t code);
+    /// False only if a write succeeded and wrote all.
+    VXGUI_LOCAL static bool WriteFailed(bool result, size_t wanted, size_t written);
+
 protected:
     ~cAlphaDIBSection() override;
 
@@ -159,6 +184,8 @@ private:
     enum class AlphaState : int32_t { Yes = -1, Unknown = 0, No = 1 };
 
     void Empty();
+    /// Takes a bitmap and its context over in place of what the surface had.
+    void Adopt(gdi::HDC dc, gdi::HBITMAP bitmap, void* bits, const gdi::BITMAPINFOHEADER& header);
     /// Bytes of the pixel memory, 0 once its bitmap has gone.
     size_t MemorySize() const;
 

@@ -35,7 +35,9 @@ bool cAlphaDIBSection::CreateWithCompatibleDC(int32_t Width, int32_t Height,
     return Create(Width, Height);
 }
 
-void cAlphaDIBSection::ClearUp() { Empty(); }
+void cAlphaDIBSection::ClearUp() {
+    Empty();
+}
 
 void cAlphaDIBSection::Empty() {
     flags_ = kUseDrawDib | kUseMsImag32;

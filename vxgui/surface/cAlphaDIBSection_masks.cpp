@@ -1,10 +1,9 @@
-#include <algorithm>
-
 #include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/pixels/AlphaScan.h"
 #include "vxgui/pixels/ColorKey.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/surface/PixelRectangle.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
@@ -54,19 +53,14 @@ gdi::HRGN cAlphaDIBSection::GetMaskRgn(int32_t TransColor) {
 }
 
 bool cAlphaDIBSection::HasAlphaChannel(int32_t xStart, int32_t yStart, int32_t xEnd, int32_t yEnd) {
-    const int32_t lastX = Width() - 1;
-    const int32_t lastY = Height() - 1;
     const ARGBArray pixels = GetARGBArray();
     if (pixels.Rows() == 0) return false;
-    const int32_t left = std::clamp(xStart, 0, lastX);
-    const int32_t right = xEnd == -1 ? lastX : std::clamp(xEnd, 0, lastX);
-    const int32_t top = std::clamp(yStart, 0, lastY);
-    const int32_t bottom = yEnd == -1 ? lastY : std::clamp(yEnd, 0, lastY);
     // The reference is the first pixel in memory, whatever the rectangle is.
     const uint8_t reference = pixels(0, 0).Alpha;
     if (reference != 0 && reference != 255) return true;
-    for (int32_t row = lastY - bottom; row <= lastY - top; ++row) {
-        if (HasOtherAlpha(pixels.Run(row, left, right), reference)) return true;
+    const PixelRectangle area(Width(), Height(), xStart, yStart, xEnd, yEnd);
+    for (int32_t row = area.lowRow; row <= area.highRow; ++row) {
+        if (HasOtherAlpha(pixels.Run(row, area.left, area.right), reference)) return true;
     }
     return false;
 }

@@ -43,8 +43,7 @@ ARGB ColourNoise(Noise& noise) {
 
 int32_t cAlphaDIBSection::GetPixel(int32_t X, int32_t Y) {
     const std::span<const ARGB> pixels = Pixels();
-    const int32_t row = WrapSub(WrapSub(Height(), Y), 1);
-    const int32_t element = WrapAdd(WrapMul(row, Width()), X);
+    const int64_t element = (int64_t{Height()} - Y - 1) * Width() + X;
     if (element < 0 || static_cast<size_t>(element) >= pixels.size()) return 0;
     return ValueFromARGB(pixels[static_cast<size_t>(element)]);
 }

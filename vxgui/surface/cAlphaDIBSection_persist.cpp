@@ -1,0 +1,155 @@
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+#include "vxgui/base/Error.h"
+#include "vxgui/base/VariantValue.h"
+#include "vxgui/platform/codecs.h"
+#include "vxgui/platform/core7.h"
+#include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/surface/BitmapMemory.h"
+#include "vxgui/surface/cAlphaDIBSection.h"
+
+// docs/formats.md has both forms byte by byte.
+namespace vxgui {
+
+namespace {
+
+constexpr char kKey[] = "cAlphaDIBSection";
+constexpr char kCompressedKey[] = "cAlphaDIBSection_compressed";
+
+/// What stands before the bitmap header in a serialized surface.
+struct SerialHeader {
+    char magic[4];
+    uint16_t version;
+    int16_t flags;
+    uint32_t size;
+    int32_t transparentColor;
+    uint32_t surfaceFlags;
+};
+static_assert(sizeof(SerialHeader) == 20);
+
+constexpr char kMagic[4] = {'A', 'D', 'I', 'B'};
+constexpr size_t kPixelOffset = sizeof(SerialHeader) + sizeof(gdi::BITMAPINFOHEADER);
+
+bool IsReadable(const SerialHeader& header) {
+    return std::memcmp(header.magic, kMagic, sizeof kMagic) == 0 &&
+           (header.version == 1 || header.version == 2) && header.size == sizeof header;
+}
+
+/// A header with room for the colours that one of few bits a pixel would be followed by.
+struct StoredInfo {
+    gdi::BITMAPINFOHEADER header{};
+    gdi::RGBQUAD colors[256]{};
+};
+
+size_t ImageSize(const gdi::BITMAPINFOHEADER& header) {
+    return static_cast<size_t>(std::max(0, static_cast<int32_t>(header.biSizeImage)));
+}
+
+/// A block of a hundred bytes must not have gigabytes made for it.
+bool IsAllowed(const gdi::BITMAPINFOHEADER& header) {
+    return codecs::ApartmentDecodeLimits().Allow(header.biWidth,
+                                                 std::abs(int64_t{header.biHeight}));
+}
+
+void RequireBag(const Ref<ole::PropertyBag>& bag) {
+    if (!bag) throw Error(ErrorNumber::ObjectNotSet, kKey, "Object not set");
+}
+
+}  // namespace
+
+void cAlphaDIBSection::ToByteArray(ByteArray& b, int16_t Flags) {
+    SerialHeader serial{{}, 2, Flags, sizeof serial, transparentColor_, flags_};
+    std::ranges::copy(kMagic, serial.magic);
+    const size_t imageSize = bits_ ? ImageSize(header_) : 0;
+    b.assign(kPixelOffset + imageSize, 0);
+    std::memcpy(b.data(), &serial, sizeof serial);
+    std::memcpy(b.data() + sizeof serial, &header_, sizeof header_);
+    const size_t there = std::min(imageSize, MemorySize());
+    if (there) std::memcpy(b.data() + kPixelOffset, bits_, there);
+}
+
+bool cAlphaDIBSection::Equal(const Ref<cAlphaDIBSection>& Item) {
+    if (!Item) return false;
+    ByteArray mine, other;
+    ToByteArray(mine, 0);
+    Item->ToByteArray(other, 0);
+    return mine == other;
+}
+
+bool cAlphaDIBSection::FromByteArray(const ByteArray& b) {
+    return !b.empty() && FromLp(b.data(), static_cast<int32_t>(b.size()));
+}
+
+bool cAlphaDIBSection::FromLp(const void* lp, int32_t SIZE) {
+    SerialHeader serial;
+    constexpr auto kSize = static_cast<int32_t>(sizeof serial);
+    if (!lp || SIZE <= kSize) return false;
+    std::memcpy(&serial, lp, sizeof serial);
+    if (!IsReadable(serial) || !DibFromLp(static_cast<const uint8_t*>(lp) + kSize, SIZE - kSize)) {
+        return false;
+    }
+    flags_ = serial.surfaceFlags;
+    transparentColor_ = serial.transparentColor;
+    return true;
+}
+
+bool cAlphaDIBSection::DibFromLp(const void* lp, int32_t SIZE) {
+    StoredInfo info;
+    constexpr auto kSize = static_cast<int32_t>(sizeof info.header);
+    if (!lp || SIZE < kSize) return false;
+    std::memcpy(&info.header, lp, sizeof info.header);
+    const size_t imageSize = ImageSize(info.header);
+    if (static_cast<size_t>(SIZE - kSize) < imageSize || !IsAllowed(info.header)) return false;
+    const gdi::HDC dc = gdi::CreateCompatibleDC(compatibleDC_);
+    if (!dc) return false;
+    void* bits = nullptr;
+    const gdi::HBITMAP bitmap =
+        gdi::CreateDIBSection(dc, reinterpret_cast<const gdi::BITMAPINFO*>(&info),
+                              gdi::DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (!bitmap) {
+        gdi::DeleteDC(dc);
+        return false;
+    }
+    // The pixels come over first: the block may lie in the memory that is about to go.
+    std::memcpy(bits, static_cast<const uint8_t*>(lp) + kSize,
+                std::min(imageSize, BitmapMemory(bitmap).size()));
+    Adopt(dc, bitmap, bits, info.header);
+    return true;
+}
+
+void cAlphaDIBSection::Adopt(gdi::HDC dc, gdi::HBITMAP bitmap, void* bits,
+                             const gdi::BITMAPINFOHEADER& header) {
+    ClearUp();
+    compatibleDC_ = nullptr;
+    header_ = header;
+    hDIB_ = bitsOwner_ = bitmap;
+    hDC_ = dc;
+    bits_ = bits;
+    oldBitmap_ = gdi::SelectObject(hDC_, hDIB_);
+}
+
+void cAlphaDIBSection::WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags) {
+    RequireBag(PropBag);
+    const bool compressed = Flags & 1;
+    ByteArray buffer;
+    ToByteArray(buffer, static_cast<int16_t>(Flags & 1));
+    if (!compressed) PropBag->WriteProperty(kCompressedKey, 0, 1);
+    PropBag->WriteProperty(kKey, compressed ? core7::Compress(buffer) : std::move(buffer));
+}
+
+void cAlphaDIBSection::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
+    RequireBag(PropBag);
+    const bool compressed = IntegerFrom(PropBag->ReadProperty(kCompressedKey, 1), kKey) != 0;
+    const Variant value = PropBag->ReadProperty(kKey);
+    const auto* stored = value.As<ByteArray>();
+    if (!stored) return;
+    if (!compressed || core7::GetSize(*stored) == 0) {
+        FromByteArray(*stored);
+    } else if (const auto plain = core7::Decompress(*stored)) {
+        FromByteArray(*plain);
+    }
+}
+
+}  // namespace vxgui
