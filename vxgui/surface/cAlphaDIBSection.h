@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
+#include <vector>
 
+#include "vxgui/base/Event.h"
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
 #include "vxgui/base/String.h"
@@ -14,6 +17,8 @@
 #include "vxgui/surface/NineGridRecord.h"
 
 namespace vxgui {
+
+class IColorAdjust;
 
 enum AlphaDIBSectionConst : int32_t {
     /// The colour key, a COLORREF, wherever none is given.
@@ -149,6 +154,28 @@ public:
     /// Whether both have the same serialized form: pixels, size, `TransparentColor`, `Flags`.
     virtual bool Equal(const Ref<cAlphaDIBSection>& Item);
 
+    // Adjusting colours. A transaction keeps a snapshot of the pixels, which `AdjustColor` starts
+    // from each time; the other two work on the pixels as they are and need none. Alpha stays.
+    virtual void BeginAdjustColor();
+    virtual void CommitAdjustColor();
+    /// Brings the snapshot's pixels back; the transaction goes on.
+    virtual void ResetAdjustColor();
+    virtual void RollbackAdjustColor();
+    /// Rows count from the top; ends of -1 are the last.
+    virtual void AdjustColor(const Ref<IColorAdjust>& ColorAdjust, int32_t xStart = 0,
+                             int32_t yStart = 0, int32_t xEnd = -1, int32_t yEnd = -1);
+    /// The hue in degrees, the others in percent. Rows count from the top. `bRaiseEvent`: 1 raises
+    /// `PreviewAdjust` at the end, 2 after each row.
+    virtual void AdjustHLS(float hue, float Luminance, float Saturation, bool Colourize,
+                           int32_t bRaiseEvent = 0, int32_t xStart = 0, int32_t yStart = 0,
+                           int32_t xEnd = -1, int32_t yEnd = -1);
+    /// Fractions of full scale. Rows are those of the memory, and `xEnd` is the offset in bytes
+    /// of the last pixel of a row.
+    virtual void AdjustRGB(float Red, float Green, float Blue, int32_t xStart = 0,
+                           int32_t yStart = 0, int32_t xEnd = -1, int32_t yEnd = -1);
+    /// An adjustment's progress: X, Y, and a flag by which a listener stops `AdjustHLS`.
+    Event<int32_t, int32_t, bool&> PreviewAdjust;
+
     // For the library's own classes.
     /// `Mode`: bits 8 to 11 hold 0x100 for the colour key, 0x200 for alpha, else plain copy; bits
     /// 0 to 7 the constant alpha.
@@ -183,7 +210,10 @@ protected:
 private:
     enum class AlphaState : int32_t { Yes = -1, Unknown = 0, No = 1 };
 
+    struct Snapshot;
+
     void Empty();
+    void RaisePreview(int32_t xEnd, int32_t y, bool& cancel) const;
     /// Takes a bitmap and its context over in place of what the surface had.
     void Adopt(gdi::HDC dc, gdi::HBITMAP bitmap, void* bits, const gdi::BITMAPINFOHEADER& header);
     /// Bytes of the pixel memory, 0 once its bitmap has gone.
@@ -198,6 +228,8 @@ private:
     gdi::BITMAPINFOHEADER header_{};
     int32_t transparentColor_ = DefaultTransColor;
     AlphaState alphaState_ = AlphaState::Unknown;
+    /// What `BeginAdjustColor` keeps, row by row of memory; null when no transaction is open.
+    std::shared_ptr<Snapshot> snapshot_;
     uint32_t flags_ = kUseDrawDib | kUseMsImag32;
 };
 

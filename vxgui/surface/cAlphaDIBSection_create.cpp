@@ -36,10 +36,12 @@ bool cAlphaDIBSection::CreateWithCompatibleDC(int32_t Width, int32_t Height,
 }
 
 void cAlphaDIBSection::ClearUp() {
+    CommitAdjustColor();
     Empty();
 }
 
 void cAlphaDIBSection::Empty() {
+    snapshot_ = nullptr;
     flags_ = kUseDrawDib | kUseMsImag32;
     if (hDC_) {
         if (hDIB_) {
