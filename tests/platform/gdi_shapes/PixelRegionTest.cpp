@@ -190,6 +190,26 @@ TEST(PixelRegion, RandomOperationsAgreeWithABitmap) {
     }
 }
 
+TEST(PixelRegion, FindsTheRectanglesOfSomeRows) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        RandomRegions regions(seed);
+        for (int step = 0; step < 60; ++step) regions.Step();
+        const PixelRegion& region = regions.Any().region;
+        for (int top = -2; top < 50; ++top) {
+            for (int bottom = top + 1; bottom < 50; bottom += 3) {
+                std::vector<RECT> expected, actual;
+                for (const RECT& r : RectanglesOf(region)) {
+                    if (r.bottom > top && r.top < bottom) expected.push_back(r);
+                }
+                for (const auto& box : region.BoxesInRows(top, bottom)) {
+                    actual.push_back(RectOf(box));
+                }
+                ASSERT_EQ(actual, expected) << seed << ": " << top << ' ' << bottom;
+            }
+        }
+    }
+}
+
 TEST(PixelRegion, RandomQuestionsAgreeWithABitmap) {
     for (unsigned seed = 1; seed <= 20; ++seed) {
         RandomRegions regions(seed);

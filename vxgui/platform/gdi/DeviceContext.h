@@ -79,8 +79,8 @@ void ForEachClipRect(const DeviceContext& dc, const RECT& area, Paint&& paint) {
         paint(inside);
         return;
     }
-    for (const pixman_box32_t& box : dc.state.clip->Boxes()) {
-        const RECT part = Intersection(inside, {box.x1, box.y1, box.x2, box.y2});
+    for (const pixman_box32_t& box : dc.state.clip->BoxesInRows(inside.top, inside.bottom)) {
+        const RECT part = Intersection(inside, RectOf(box));
         if (!IsEmpty(part)) paint(part);
     }
 }

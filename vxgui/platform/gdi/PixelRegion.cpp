@@ -130,6 +130,15 @@ std::span<const pixman_box32_t> PixelRegion::Boxes() const {
     return {boxes, static_cast<size_t>(count)};
 }
 
+std::span<const pixman_box32_t> PixelRegion::BoxesInRows(int32_t top, int32_t bottom) const {
+    const auto boxes = Boxes();
+    const auto first = std::ranges::partition_point(
+        boxes, [top](const pixman_box32_t& box) { return box.y2 <= top; });
+    const auto end = std::ranges::partition_point(
+        boxes, [bottom](const pixman_box32_t& box) { return box.y1 < bottom; });
+    return first < end ? std::span(first, end) : std::span<const pixman_box32_t>();
+}
+
 bool operator==(const PixelRegion& a, const PixelRegion& b) {
     // pixman remembers where an empty region once was, and would tell two of them apart.
     if (a.Empty() || b.Empty()) return a.Empty() && b.Empty();

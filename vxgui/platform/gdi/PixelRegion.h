@@ -42,6 +42,8 @@ public:
 
     /// The rectangles, in bands from the top, each from the left.
     std::span<const pixman_box32_t> Boxes() const;
+    /// Those of them that have a part in the rows [top, bottom).
+    std::span<const pixman_box32_t> BoxesInRows(int32_t top, int32_t bottom) const;
 
     friend bool operator==(const PixelRegion& a, const PixelRegion& b);
 
