@@ -118,9 +118,9 @@ constexpr DWORD SRCCOPY = 0x00CC0020, SRCPAINT = 0x00EE0086, SRCAND = 0x008800C6
 constexpr UINT OBJ_PEN = 1, OBJ_BRUSH = 2, OBJ_PAL = 5, OBJ_FONT = 6, OBJ_BITMAP = 7;
 
 /// Stock objects.
-constexpr int WHITE_BRUSH = 0, LTGRAY_BRUSH = 1, GRAY_BRUSH = 2, DKGRAY_BRUSH = 3,
-              BLACK_BRUSH = 4, NULL_BRUSH = 5, WHITE_PEN = 6, BLACK_PEN = 7, NULL_PEN = 8,
-              SYSTEM_FONT = 13, DEFAULT_GUI_FONT = 17;
+constexpr int WHITE_BRUSH = 0, LTGRAY_BRUSH = 1, GRAY_BRUSH = 2, DKGRAY_BRUSH = 3, BLACK_BRUSH = 4,
+              NULL_BRUSH = 5, WHITE_PEN = 6, BLACK_PEN = 7, NULL_PEN = 8, SYSTEM_FONT = 13,
+              DEFAULT_GUI_FONT = 17;
 
 /// Device capabilities.
 constexpr int HORZRES = 8, VERTRES = 10, BITSPIXEL = 12, PLANES = 14, LOGPIXELSX = 88,
@@ -130,6 +130,7 @@ constexpr int HORZRES = 8, VERTRES = 10, BITSPIXEL = 12, PLANES = 14, LOGPIXELSX
 constexpr int BLACKONWHITE = 1, WHITEONBLACK = 2, COLORONCOLOR = 3, HALFTONE = 4;
 constexpr int TRANSPARENT = 1, OPAQUE = 2;
 constexpr int ALTERNATE = 1, WINDING = 2;
+constexpr int AD_COUNTERCLOCKWISE = 1, AD_CLOCKWISE = 2;
 
 /// Regions.
 constexpr int ERROR = 0, NULLREGION = 1, SIMPLEREGION = 2, COMPLEXREGION = 3;
@@ -141,6 +142,9 @@ constexpr UINT EDGE_RAISED = 5, EDGE_SUNKEN = 10, EDGE_ETCHED = 6, EDGE_BUMP = 9
 constexpr UINT BF_LEFT = 0x1, BF_TOP = 0x2, BF_RIGHT = 0x4, BF_BOTTOM = 0x8, BF_RECT = 0xF,
                BF_DIAGONAL = 0x10, BF_MIDDLE = 0x800, BF_SOFT = 0x1000, BF_ADJUST = 0x2000,
                BF_FLAT = 0x4000, BF_MONO = 0x8000;
+/// A diagonal, named for the corner where it ends; it starts at the opposite one.
+constexpr UINT BF_DIAGONAL_ENDTOPLEFT = 0x13, BF_DIAGONAL_ENDTOPRIGHT = 0x16,
+               BF_DIAGONAL_ENDBOTTOMLEFT = 0x19, BF_DIAGONAL_ENDBOTTOMRIGHT = 0x1C;
 
 /// System colours of `GetSysColor`.
 constexpr int COLOR_SCROLLBAR = 0, COLOR_WINDOW = 5, COLOR_WINDOWFRAME = 6, COLOR_WINDOWTEXT = 8,
@@ -148,7 +152,8 @@ constexpr int COLOR_SCROLLBAR = 0, COLOR_WINDOW = 5, COLOR_WINDOWFRAME = 6, COLO
               COLOR_BTNHIGHLIGHT = 20, COLOR_3DDKSHADOW = 21, COLOR_3DLIGHT = 22;
 
 /// Pens and brushes.
-constexpr UINT PS_SOLID = 0, PS_DASH = 1, PS_DOT = 2, PS_NULL = 5;
+constexpr UINT PS_SOLID = 0, PS_DASH = 1, PS_DOT = 2, PS_DASHDOT = 3, PS_DASHDOTDOT = 4,
+               PS_NULL = 5, PS_INSIDEFRAME = 6;
 constexpr UINT BS_SOLID = 0, BS_NULL = 1, BS_HATCHED = 2, BS_PATTERN = 3;
 
 constexpr COLORREF RGB(int r, int g, int b) {

@@ -2,20 +2,10 @@
 
 #include <array>
 
-#include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
 namespace {
-
-template <class T>
-T* Permanently(std::unique_ptr<T> object) {
-    object->MakePermanent();
-    // Stock objects are never given back: their count keeps this one reference.
-    GdiRef<T> ref = Enter(std::move(object));
-    ref->AddReference();
-    return ref.get();
-}
 
 Brush* MakeBrush(UINT style, COLORREF color) {
     return Permanently(std::make_unique<Brush>(LOGBRUSH{style, color, 0}));

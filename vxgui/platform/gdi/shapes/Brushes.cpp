@@ -1,0 +1,33 @@
+#include "vxgui/platform/gdi/DeviceContext.h"
+#include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/shapes/PatternBrush.h"
+#include "vxgui/platform/gdi_shapes.h"
+
+namespace vxgui::gdi {
+namespace {
+
+HBRUSH EnterBrush(std::unique_ptr<Brush> brush) {
+    const GdiRef<Brush> entered = Enter(std::move(brush));
+    return entered ? static_cast<HBRUSH>(entered->Handle()) : nullptr;
+}
+
+}  // namespace
+
+HBRUSH CreateSolidBrush(COLORREF color) {
+    return EnterBrush(std::make_unique<Brush>(LOGBRUSH{BS_SOLID, color, 0}));
+}
+
+HBRUSH CreatePatternBrush(HBITMAP bitmap) {
+    const GdiRef<Bitmap> found = Find<Bitmap>(bitmap);
+    return found ? EnterBrush(std::make_unique<PatternBrush>(*found)) : nullptr;
+}
+
+BOOL SetBrushOrgEx(HDC dc, int x, int y, POINT* old) {
+    const GdiRef<DeviceContext> context = FindContext(dc);
+    if (!context) return 0;
+    if (old) *old = context->state.brushOrigin;
+    context->state.brushOrigin = {x, y};
+    return 1;
+}
+
+}  // namespace vxgui::gdi
