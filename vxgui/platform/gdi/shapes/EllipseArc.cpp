@@ -13,8 +13,8 @@ constexpr double kQuarter = std::numbers::pi / 2;
 // above the error of the arc tangent.
 constexpr double kSameRay = 1e-11;
 constexpr double kFlatness = 1.0 / 32;
-// Bounds the corners of a quarter turn; reached at a radius of some 4 million pixels only.
-constexpr double kMostSteps = 8192;
+// Bounds the corners of a quarter turn; enough for a radius of 26,000 pixels.
+constexpr double kMostSteps = 512;
 
 // The parameter at which the ray from the centre through `point` meets the ellipse.
 double ParameterOf(const EllipseArc& arc, POINT point) {
