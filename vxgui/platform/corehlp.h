@@ -6,7 +6,7 @@
 
 /// The helper library: one entry, exported by ordinal 1 of the built-in module
 /// "VxCoreHlp.dll", and five numbered pixel services, which the entry's `GetServiceAddress`
-/// finds. `corehlp_services.h` of the implementation says what each does to the pixels.
+/// finds. `Services.h` of the implementation says what each does to the pixels.
 namespace vxgui::corehlp {
 
 /// A stub's place: the address of its atomic target pointer.

@@ -1,11 +1,16 @@
 #include "vxgui/platform/kernel/BuiltInModules.h"
 
+#include "vxgui/platform/corehlp/Modules.h"
 #include "vxgui/platform/gdi/Modules.h"
 
 namespace vxgui::kernel {
 
 std::vector<BuiltInEntry> BuiltInModules() {
-    return {{"msimg32.dll", gdi::kMsImg32Exports}, {"msvfw32.dll", gdi::kMsVfw32Exports}};
+    return {
+        {"VxCoreHlp.dll", corehlp::kCoreHlpExports},
+        {"msimg32.dll", gdi::kMsImg32Exports},
+        {"msvfw32.dll", gdi::kMsVfw32Exports},
+    };
 }
 
 }  // namespace vxgui::kernel
