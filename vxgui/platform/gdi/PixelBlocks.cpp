@@ -1,9 +1,9 @@
 #include "vxgui/platform/gdi/PixelBlocks.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
-#include <utility>
 
 namespace vxgui::gdi {
 namespace {
@@ -14,47 +14,46 @@ thread_local bool storeClosed = false;
 // A small bitmap must not hold on to a block that is out of all proportion.
 constexpr size_t kSmallBlock = size_t{64} << 10;
 bool Serves(const PixelBlock& block, size_t size) {
-    return block.bits && block.capacity >= size &&
-           (block.capacity <= kSmallBlock || block.capacity / 8 <= size);
+    return block.capacity >= size && (block.capacity <= kSmallBlock || block.capacity / 8 <= size);
 }
 
+// The kept blocks, the one kept longest ago first.
 class BlockStore {
 public:
     ~BlockStore() {
         storeClosed = true;
-        for (PixelBlock& block : blocks_) Drop(block);
+        while (count_ > 0) std::free(Remove(0).bits);
     }
 
     // The smallest block that serves; none when there is none.
     PixelBlock Take(size_t size) {
-        PixelBlock* best = nullptr;
-        for (PixelBlock& block : blocks_) {
-            if (Serves(block, size) && (!best || block.capacity < best->capacity)) best = &block;
+        size_t best = count_;
+        for (size_t i = 0; i < count_; ++i) {
+            if (!Serves(blocks_[i], size)) continue;
+            if (best == count_ || blocks_[i].capacity < blocks_[best].capacity) best = i;
         }
-        if (!best) return {};
-        bytes_ -= best->capacity;
-        return std::exchange(*best, {});
+        return best == count_ ? PixelBlock{} : Remove(best);
     }
 
-    // In the place of the block that was kept longest ago.
     void Keep(const PixelBlock& block) {
-        do {
-            Drop(blocks_[next_]);
-            next_ = (next_ + 1) % kKeptBlocks;
-        } while (bytes_ + block.capacity > kKeptBytes);
-        blocks_[(next_ + kKeptBlocks - 1) % kKeptBlocks] = block;
+        while (count_ == kKeptBlocks || bytes_ + block.capacity > kKeptBytes) {
+            std::free(Remove(0).bits);
+        }
+        blocks_[count_++] = block;
         bytes_ += block.capacity;
     }
 
 private:
-    void Drop(PixelBlock& block) {
-        if (!block.bits) return;
+    PixelBlock Remove(size_t index) {
+        const PixelBlock block = blocks_[index];
+        std::copy(blocks_.begin() + index + 1, blocks_.begin() + count_, blocks_.begin() + index);
+        --count_;
         bytes_ -= block.capacity;
-        std::free(std::exchange(block, {}).bits);
+        return block;
     }
 
     std::array<PixelBlock, kKeptBlocks> blocks_;
-    size_t next_ = 0;
+    size_t count_ = 0;
     size_t bytes_ = 0;
 };
 
