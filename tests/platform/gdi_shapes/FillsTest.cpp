@@ -214,5 +214,35 @@ TEST(FillCalls, StaleAndWrongHandlesFail) {
     EXPECT_EQ(canvas.Word(0, 0), Canvas::kUntouched);
 }
 
+TEST(FillCalls, ADeletedContextFailsEverywhere) {
+    HDC dc = CreateCompatibleDC(nullptr);
+    Owned<HRGN> region(CreateRectRgn(0, 0, 1, 1));
+    const auto white = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    RECT rect{0, 0, 1, 1};
+    DeleteDC(dc);
+    EXPECT_FALSE(FillRect(dc, &rect, white));
+    EXPECT_FALSE(FrameRect(dc, &rect, white));
+    EXPECT_FALSE(InvertRect(dc, &rect));
+    EXPECT_FALSE(DrawEdge(dc, &rect, EDGE_RAISED, BF_RECT));
+    EXPECT_FALSE(FillRgn(dc, region, white));
+    EXPECT_FALSE(PaintRgn(dc, region));
+    EXPECT_FALSE(InvertRgn(dc, region));
+    EXPECT_FALSE(MoveToEx(dc, 1, 1, nullptr));
+    EXPECT_FALSE(LineTo(dc, 2, 2));
+    EXPECT_FALSE(BeginPath(dc));
+    EXPECT_FALSE(SetBrushOrgEx(dc, 1, 1, nullptr));
+    EXPECT_EQ(SelectClipRgn(dc, region), ERROR);
+    EXPECT_EQ(GetClipRgn(dc, region), -1);
+}
+
+TEST(FillCalls, InvertingNeedsNoBrush) {
+    Canvas canvas(2, 1);
+    SelectObject(canvas.dc, GetStockObject(NULL_BRUSH));
+    const RECT rect{0, 0, 1, 1};
+    EXPECT_TRUE(InvertRect(canvas.dc, &rect));
+    EXPECT_EQ(canvas.Word(0, 0), ~Canvas::kUntouched);
+    EXPECT_EQ(canvas.Word(1, 0), Canvas::kUntouched);
+}
+
 }  // namespace
 }  // namespace vxgui::gdi
