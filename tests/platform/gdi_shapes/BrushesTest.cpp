@@ -33,17 +33,20 @@ TEST(PatternBrushes, TileFromTheDeviceOriginNotFromTheRectangle) {
 
 TEST(PatternBrushes, TileFromTheBrushOrigin) {
     Owned<HBRUSH> brush(ColourTile());
-    for (const POINT& origin :
-         {POINT{1, 0}, POINT{-1, 4}, POINT{kHigh, kLow}, POINT{kLow + 1, 0}}) {
+    const COLORREF tile[2][2] = {{kRed, kGreen}, {kBlue, kWhite}};
+    for (const POINT& origin : {POINT{1, 0}, POINT{0, 3}, POINT{-1, 4}, POINT{kHigh, kLow},
+                                POINT{kLow, kHigh}, POINT{kLow + 1, -7}}) {
         Canvas canvas(4, 4);
         POINT old{9, 9};
         EXPECT_TRUE(SetBrushOrgEx(canvas.dc, origin.x, origin.y, &old));
         EXPECT_EQ(old, (POINT{0, 0}));
         const RECT all{0, 0, 4, 4};
         FillRect(canvas.dc, &all, brush);
-        EXPECT_EQ(canvas.At(1, 2), kRed) << origin;
-        EXPECT_EQ(canvas.At(0, 0), kGreen) << origin;
-        EXPECT_EQ(canvas.At(3, 1), kBlue) << origin;
+        for (int y = 0; y < 4; ++y) {
+            for (int x = 0; x < 4; ++x) {
+                EXPECT_EQ(canvas.At(x, y), tile[(y ^ origin.y) & 1][(x ^ origin.x) & 1]) << origin;
+            }
+        }
         SetBrushOrgEx(canvas.dc, 0, 0, &old);
         EXPECT_EQ(old, origin);
     }

@@ -265,6 +265,15 @@ TEST_F(Arcs, NeitherUseNorMoveThePositionUnlessTheyAreArcTo) {
     EXPECT_EQ(PositionOf(canvas.dc), (POINT{5, 0}));
 }
 
+TEST_F(Arcs, OfABrokenPenGoOnAcrossTheirCorners) {
+    Owned<HPEN> dots(CreatePen(PS_DOT, 1, kRed));
+    SelectObject(canvas.dc, dots);
+    canvas.State().backColor = kBlue;
+    Arc(canvas.dc, 0, 0, 23, 23, 0, 0, 0, 0);
+    EXPECT_GT(canvas.Count(kRed), 20);
+    EXPECT_NEAR(canvas.Count(kRed), canvas.Count(kBlue), 4);
+}
+
 TEST_F(Arcs, OfAnEmptyBoxDrawNothing) {
     MoveToEx(canvas.dc, 3, 3, nullptr);
     EXPECT_TRUE(Arc(canvas.dc, 5, 5, 5, 9, 0, 0, 1, 1));
