@@ -2,6 +2,7 @@
 
 #include "vxgui/platform/corehlp/Modules.h"
 #include "vxgui/platform/gdi/Modules.h"
+#include "vxgui/platform/gdiplus.h"
 
 namespace vxgui::kernel {
 
@@ -10,6 +11,7 @@ std::vector<BuiltInEntry> BuiltInModules() {
         {"VxCoreHlp.dll", corehlp::kCoreHlpExports},
         {"msimg32.dll", gdi::kMsImg32Exports},
         {"msvfw32.dll", gdi::kMsVfw32Exports},
+        {"GDIPLUS.DLL", gdiplus::kGdiplusExports},
     };
 }
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus/FlatObject.h"
+#include "vxgui/platform/gdiplus_types.h"
+
+namespace vxgui::gdiplus {
+
+/// What every image has; the base of bitmaps.
+class Image : public FlatObject {
+public:
+    virtual UINT Width() const = 0;
+    virtual UINT Height() const = 0;
+};
+
+}  // namespace vxgui::gdiplus
