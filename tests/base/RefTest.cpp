@@ -39,6 +39,29 @@ TEST(RefTest, AnOperationKeepsItsOwnObjectAlive) {
     EXPECT_EQ(alive, 0);
 }
 
+/// Cleans up by a public operation, as its host may.
+class CleansUp : public Object {
+public:
+    explicit CleansUp(int* cleaned) : cleaned_(cleaned) {}
+    void CleanUp() {
+        const KeepAlive keep(this);
+        ++*cleaned_;
+    }
+
+protected:
+    ~CleansUp() override { CleanUp(); }
+
+private:
+    int* cleaned_;
+};
+
+TEST(RefTest, ADestructorMayCallTheOperationsOfItsObject) {
+    int cleaned = 0;
+    Ref<CleansUp> object = New<CleansUp>(&cleaned);
+    object = nullptr;
+    EXPECT_EQ(cleaned, 1);
+}
+
 TEST(RefTest, SelfAssignmentKeepsTheObject) {
     int alive = 0;
     Ref<Counted> a = New<Counted>(&alive);
