@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vxgui/base/Object.h"
+#include "vxgui/base/Variant.h"
 #include "vxgui/platform/gdi_types.h"
 
 namespace vxgui {
@@ -27,6 +27,13 @@ public:
                            int32_t nWidthDst, int32_t hHeightDst, gdi::HDC hdcSrc,
                            int32_t nXOriginSrc, int32_t nYOriginSrc, int32_t nWidthSrc,
                            int32_t nHeightSrc, int32_t cTransparentColor);
+
+    /// A command and its three operands; a failure inside is ignored, and leaves the result
+    /// empty, as an unknown command does.
+    ///
+    /// {"LoadThemeSet", the ThemeSet, a core7::DefineFile, the folder of its pictures} fills the
+    /// set and gives 0.
+    Variant Execute(const VariantArray& P);
 
 protected:
     ~VxGuiGlobal() override;
