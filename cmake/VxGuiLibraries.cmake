@@ -15,31 +15,35 @@ set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS
 
 set(VXPLATFORM_LINKS PkgConfig::VXGUI_DEPS GIF::GIF Threads::Threads ${CMAKE_DL_LIBS})
 
-function(vxgui_add_form target kind sources)
-  add_library(${target} ${kind} ${sources})
-  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vxgui_flags>)
-  target_include_directories(${target} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-  target_compile_features(${target} PUBLIC cxx_std_20)
-  if(kind STREQUAL STATIC)
-    target_compile_definitions(${target} PUBLIC VXGUI_STATIC)
-  else()
-    set_target_properties(${target} PROPERTIES
-      CXX_VISIBILITY_PRESET hidden C_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
-      VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
-    # Names like BitBlt exist elsewhere too: our calls stay ours, and nobody else gets them.
-    target_link_options(${target} PRIVATE -Wl,-Bsymbolic -Wl,--no-undefined)
-  endif()
+# Each source is compiled once, position-independent and with hidden visibility. The static form
+# reaches everything all the same: visibility counts at the border of a shared library alone.
+function(vxgui_add_library name sources)
+  add_library(${name}_objects OBJECT ${sources})
+  target_link_libraries(${name}_objects PUBLIC $<BUILD_INTERFACE:vxgui_flags> ${ARGN})
+  target_compile_features(${name}_objects PUBLIC cxx_std_20)
+  set_target_properties(${name}_objects PROPERTIES
+    POSITION_INDEPENDENT_CODE ON
+    CXX_VISIBILITY_PRESET hidden C_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+
+  add_library(${name}_static STATIC $<TARGET_OBJECTS:${name}_objects>)
+  add_library(${name} SHARED $<TARGET_OBJECTS:${name}_objects>)
+  foreach(form ${name}_static ${name})
+    target_include_directories(${form} PUBLIC
+      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_compile_features(${form} PUBLIC cxx_std_20)
+  endforeach()
+  set_target_properties(${name} PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  # Names like BitBlt exist elsewhere too: our calls stay ours, and nobody else gets them.
+  target_link_options(${name} PRIVATE -Wl,-Bsymbolic
+                      $<$<NOT:$<BOOL:${VXGUI_SANITIZE}>>:-Wl,--no-undefined>)
+  add_library(VxGui::${name} ALIAS ${name})
 endfunction()
 
-vxgui_add_form(vxplatform_static STATIC "${VXPLATFORM_SOURCES}")
+vxgui_add_library(vxplatform "${VXPLATFORM_SOURCES}" ${VXPLATFORM_LINKS})
 target_link_libraries(vxplatform_static PUBLIC ${VXPLATFORM_LINKS})
-vxgui_add_form(vxgui_static STATIC "${VXGUI_SOURCES}")
-target_link_libraries(vxgui_static PUBLIC vxplatform_static)
+target_link_libraries(vxplatform PRIVATE ${VXPLATFORM_LINKS} $<BUILD_INTERFACE:vxgui_flags>)
 
-vxgui_add_form(vxplatform SHARED "${VXPLATFORM_SOURCES}")
-target_link_libraries(vxplatform PRIVATE ${VXPLATFORM_LINKS})
-vxgui_add_form(vxgui SHARED "${VXGUI_SOURCES}")
-target_link_libraries(vxgui PUBLIC vxplatform)
-add_library(VxGui::vxgui ALIAS vxgui)
-add_library(VxGui::vxplatform ALIAS vxplatform)
+vxgui_add_library(vxgui "${VXGUI_SOURCES}")
+target_link_libraries(vxgui_static PUBLIC vxplatform_static)
+target_link_libraries(vxgui PUBLIC vxplatform PRIVATE $<BUILD_INTERFACE:vxgui_flags>)
