@@ -17,7 +17,7 @@ struct Picture {
         : width(w), height(h), pixels(static_cast<size_t>(w) * h, fill) {}
 
     ARGB& At(int32_t x, int32_t y) { return pixels[static_cast<size_t>(y) * width + x]; }
-    PixelRectangle Whole() const { return {0, 0, width - 1, height - 1}; }
+    PixelBox Whole() const { return {0, 0, width - 1, height - 1}; }
     void Blur(const BoxKernel& horizontal, const BoxKernel& vertical) {
         vxgui::Blur(pixels, width, Whole(), horizontal, vertical);
     }
@@ -206,9 +206,9 @@ TEST(Blur, RectangleIsTheSamePartOfTheWholeBlurAndLeavesTheRest) {
     const Picture before = Noise(60, 50, 11);
     Picture whole = before;
     whole.Blur(GaussianKernel(7), GaussianKernel(4));
-    for (const PixelRectangle& part :
-         {PixelRectangle{0, 0, 59, 49}, PixelRectangle{20, 10, 40, 30}, PixelRectangle{0, 0, 0, 0},
-          PixelRectangle{59, 49, 59, 49}, PixelRectangle{3, 45, 58, 49}}) {
+    for (const PixelBox& part :
+         {PixelBox{0, 0, 59, 49}, PixelBox{20, 10, 40, 30}, PixelBox{0, 0, 0, 0},
+          PixelBox{59, 49, 59, 49}, PixelBox{3, 45, 58, 49}}) {
         Picture expected = before, picture = before;
         for (int32_t y = part.top; y <= part.bottom; ++y) {
             for (int32_t x = part.left; x <= part.right; ++x) expected.At(x, y) = whole.At(x, y);
@@ -220,9 +220,9 @@ TEST(Blur, RectangleIsTheSamePartOfTheWholeBlurAndLeavesTheRest) {
 
 TEST(Blur, RectangleThatLeavesThePictureDoesNothing) {
     const Picture before = Noise(10, 8, 5);
-    for (const PixelRectangle& part :
-         {PixelRectangle{-1, 0, 5, 5}, PixelRectangle{0, -1, 5, 5}, PixelRectangle{0, 0, 10, 5},
-          PixelRectangle{0, 0, 5, 8}, PixelRectangle{5, 0, 4, 5}, PixelRectangle{0, 5, 4, 4}}) {
+    for (const PixelBox& part :
+         {PixelBox{-1, 0, 5, 5}, PixelBox{0, -1, 5, 5}, PixelBox{0, 0, 10, 5}, PixelBox{0, 0, 5, 8},
+          PixelBox{5, 0, 4, 5}, PixelBox{0, 5, 4, 4}}) {
         Picture picture = before;
         Blur(picture.pixels, picture.width, part, GaussianKernel(2), GaussianKernel(2));
         EXPECT_EQ(picture.pixels, before.pixels);

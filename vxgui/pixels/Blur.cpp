@@ -74,7 +74,7 @@ Range Reached(int64_t first, int64_t last, const BoxKernel& kernel, int64_t size
 
 }  // namespace
 
-void Blur(std::span<ARGB> pixels, int32_t width, const PixelRectangle& rectangle,
+void Blur(std::span<ARGB> pixels, int32_t width, const PixelBox& rectangle,
           const BoxKernel& horizontal, const BoxKernel& vertical) {
     const auto& [left, top, right, bottom] = rectangle;
     if (width < 1 || left < 0 || top < 0 || left > right || top > bottom || right >= width) return;

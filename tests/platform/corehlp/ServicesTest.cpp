@@ -32,7 +32,7 @@ std::vector<ARGB> Noise() {
 }
 
 std::vector<ARGB> Blurred(const BoxKernel& horizontal, const BoxKernel& vertical,
-                          const PixelRectangle& part = {0, 0, kWidth - 1, kHeight - 1}) {
+                          const PixelBox& part = {0, 0, kWidth - 1, kHeight - 1}) {
     std::vector<ARGB> pixels = Noise();
     vxgui::Blur(pixels, kWidth, part, horizontal, vertical);
     return pixels;

@@ -76,11 +76,9 @@ int32_t GaussianBlurEx(void* bits, int32_t zero, int32_t width, int32_t height, 
     const auto [status, pixels] = PictureOf(bits, width, height);
     if (status != kDone) return status;
     if (zero != 0) return kBitsUnwritable;
-    if (x1 < 0 || x1 >= width || y1 < 0 || y1 >= height) return kBadSize;
-    const int32_t right = x2 < 1 || x2 >= width ? width - 1 : x2;
-    const int32_t bottom = y2 < 1 || y2 >= height ? height - 1 : y2;
-    vxgui::Blur(pixels, width, {x1, y1, right, bottom}, GaussianKernel(radiusX),
-                GaussianKernel(radiusY));
+    const auto box = PixelBox::Of(width, height, x1, y1, x2, y2);
+    if (!box) return kBadSize;
+    vxgui::Blur(pixels, width, *box, GaussianKernel(radiusX), GaussianKernel(radiusY));
     return kDone;
 }
 
