@@ -9,7 +9,7 @@ file(GLOB_RECURSE VXGUI_SOURCES CONFIGURE_DEPENDS
      vxgui/theme/*.cpp vxgui/image/*.cpp vxgui/gdip/*.cpp)
 
 # The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone.
-file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp)
+file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp)
 set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS
                             "$<$<NOT:$<CONFIG:Debug>>:-O3>")
 

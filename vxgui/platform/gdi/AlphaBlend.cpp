@@ -1,6 +1,5 @@
-#include <algorithm>
-
 #include "vxgui/platform/gdi/ArgbBlit.h"
+#include "vxgui/platform/gdi/PixelMix.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
@@ -17,32 +16,6 @@ struct Blend {
 Blend BlendOf(DWORD packed) {
     const DWORD format = packed >> 24;
     return {packed >> 16 & 0xFF, format == 1, (packed & 0xFFFF) == 0 && format <= 1};
-}
-
-uint32_t Channel(uint32_t word, int shift) { return word >> shift & 0xFF; }
-
-// (s*c + d*(255-c) + 127) / 255 for all four bytes.
-uint32_t MixConstant(uint32_t source, uint32_t destination, uint32_t constant) {
-    uint32_t result = 0;
-    for (const int shift : {0, 8, 16, 24}) {
-        const uint32_t sum =
-            Channel(source, shift) * constant + Channel(destination, shift) * (255 - constant);
-        result |= (sum + 127) / 255 << shift;
-    }
-    return result;
-}
-
-// s' = (s*c + 127) / 255 for all four bytes, then s' + (d*(255-a') + 127) / 255. A source that
-// isn't premultiplied would pass 255 and stops there.
-uint32_t MixPremultiplied(uint32_t source, uint32_t destination, uint32_t constant) {
-    const uint32_t alpha = (Channel(source, 24) * constant + 127) / 255;
-    uint32_t result = 0;
-    for (const int shift : {0, 8, 16, 24}) {
-        const uint32_t scaled = (Channel(source, shift) * constant + 127) / 255;
-        const uint32_t under = (Channel(destination, shift) * (255 - alpha) + 127) / 255;
-        result |= std::min(scaled + under, 255u) << shift;
-    }
-    return result;
 }
 
 template <uint32_t (*Mix)(uint32_t, uint32_t, uint32_t)>
@@ -78,7 +51,7 @@ BOOL AlphaBlend(HDC handle, int x, int y, int width, int height, HDC sourceHandl
 
     const BlitGeometry geometry{{x, width, sourceX, sourceWidth},
                                 {y, height, sourceY, sourceHeight}};
-    const auto run = blend.perPixel ? BlendWith<MixPremultiplied> : BlendWith<MixConstant>;
+    const auto run = blend.perPixel ? BlendWith<ScaledSourceOver> : BlendWith<MixByConstant>;
     return run(*dc, *from, geometry, blend.constant);
 }
 

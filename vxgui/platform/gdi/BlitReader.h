@@ -18,6 +18,10 @@ public:
     bool Plain() const { return columns_ == nullptr; }
     /// The first source pixel of a row's run; for a plain reader of at least 8 bits a pixel.
     const uint8_t* Address(int32_t x, int32_t y) const;
+    /// Whether two rows of the target show the same source row.
+    bool SameRow(int32_t y, int32_t other) const {
+        return geometry_.down.Source(y) == geometry_.down.Source(other);
+    }
     /// The words shown by the `count` pixels from (x, y) of the target rightwards.
     void Read(int32_t x, int32_t y, int32_t count, uint32_t* words) const;
 

@@ -86,15 +86,18 @@ bool IsWordCopy(const PixelTarget& target, const PixelTarget& source, const Rop3
     return rop.Code() == kCopyCode && target.depth == 32 && source.depth == 32;
 }
 
-// Whole rows from one 32-bit bitmap to another.
+// Whole rows from one 32-bit bitmap to another; a row that is repeated is found once.
 void CopyWords(const DeviceContext& dc, const BlitReader& reader, const RECT& area) {
     const PixelTarget target = dc.Target();
     ForEachClipRect(dc, area, [&](const RECT& part) {
         const int32_t count = part.right - part.left;
+        const auto bytes = static_cast<size_t>(count) * 4;
         for (int32_t y = part.top; y < part.bottom; ++y) {
             uint32_t* row = target.Row32(y) + part.left;
-            if (reader.Plain()) {
-                std::memcpy(row, reader.Address(part.left, y), static_cast<size_t>(count) * 4);
+            if (y > part.top && reader.SameRow(y, y - 1)) {
+                std::memcpy(row, target.Row32(y - 1) + part.left, bytes);
+            } else if (reader.Plain()) {
+                std::memcpy(row, reader.Address(part.left, y), bytes);
             } else {
                 reader.Read(part.left, y, count, row);
             }
