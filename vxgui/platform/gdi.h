@@ -1,6 +1,7 @@
 #pragma once
 
 /// The drawing interface, whole.
+#include "vxgui/platform/gdi_icons.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/platform/gdi_text.h"
