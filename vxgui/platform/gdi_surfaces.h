@@ -5,15 +5,16 @@
 #include "vxgui/platform/gdi_types.h"
 
 /// Device contexts, bitmaps and blits. Calls answer 0, false or `CLR_INVALID` on failure, as
-/// published, and touch no memory but the target's.
+/// published, and touch no memory but the target's. Any thread may use any handle; one context
+/// is for one thread at a time.
 namespace vxgui::gdi {
 
 /// A host's own pixels, to be drawn on in place.
 struct HostPixels {
-    void* bits;        ///< the first row in memory
+    void* bits;        ///< the first row in memory; a multiple of 4
     int32_t width;     ///< pixels, above 0
     int32_t height;    ///< pixels, above 0
-    ptrdiff_t stride;  ///< bytes from one row in memory to the next; above or below 0
+    ptrdiff_t stride;  ///< bytes from one row to the next; above or below 0, a multiple of 4
     bool bottomUp;     ///< the first row in memory is the bottom one of the picture
 };
 
@@ -25,7 +26,9 @@ VXPLATFORM_API HDC CreateHostDC(const HostPixels& pixels);
 /// A fresh memory context; null stands for the screen.
 VXPLATFORM_API HDC CreateCompatibleDC(HDC dc);
 VXPLATFORM_API BOOL DeleteDC(HDC dc);
+/// Answers the level that `RestoreDC` takes, from 1; 0 on failure.
 VXPLATFORM_API int SaveDC(HDC dc);
+/// Brings back the state of a level, or, below 0, of as many levels ago; it and later ones end.
 VXPLATFORM_API BOOL RestoreDC(HDC dc, int level);
 /// 96 dots an inch unless the host sets another with `SetScreenDpi`; 0 for a null context.
 VXPLATFORM_API int GetDeviceCaps(HDC dc, int index);
@@ -33,9 +36,12 @@ VXPLATFORM_API void SetScreenDpi(int dpi);
 VXPLATFORM_API int ScreenDpi();
 
 // Objects.
+/// Answers what was selected before; null on failure. A bitmap can be selected in one memory
+/// context only. A region becomes the clip, and the answer is its kind.
 VXPLATFORM_API HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
 VXPLATFORM_API HGDIOBJ GetCurrentObject(HDC dc, UINT kind);
 VXPLATFORM_API HGDIOBJ GetStockObject(int index);
+/// A selected object goes when it is deselected; stock objects stay, and the call succeeds.
 VXPLATFORM_API BOOL DeleteObject(HGDIOBJ object);
 /// Fills the record of a bitmap (`BITMAP`, or `DIBSECTION` when it is one and `size` allows),
 /// font, brush or pen; answers the bytes written, 0 on failure. With a null buffer it answers
@@ -47,19 +53,28 @@ constexpr int kDibSectionRecordSize = sizeof(DIBSECTION);
 VXPLATFORM_API BOOL GdiFlush();
 
 // Bitmaps.
+/// A device bitmap of 1, 8, 24 or 32 bits a pixel; rows of `bits` start at even addresses.
 VXPLATFORM_API HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount,
                                     const void* bits);
 VXPLATFORM_API HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
-/// 1, 8, 24 and 32 bits a pixel. `bits` gets the first byte of the pixel memory, zeroed.
+/// 1, 8, 24 and 32 bits a pixel. `bits` gets the first byte of the pixel memory, zeroed. As
+/// everywhere, `info` goes on with its colours (biClrUsed of them, all when that is 0) where the
+/// header says up to 8 bits: a bare header isn't enough then.
 VXPLATFORM_API HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits,
                                         HANDLE section, DWORD offset);
+/// `bits` holds `scanLines` rows from `startScan` on. That and `sourceY` count from the bottom of
+/// the picture, whatever its row order; the source rectangle's lower left corner is shown at the
+/// lower left corner of the target rectangle. Answers the rows that were there.
 VXPLATFORM_API int SetDIBitsToDevice(HDC dc, int x, int y, DWORD width, DWORD height, int sourceX,
                                      int sourceY, UINT startScan, UINT scanLines, const void* bits,
                                      const BITMAPINFO* info, UINT usage);
+/// Copies rows in the form of `info` and answers their number; without `bits` it fills the
+/// header, all of it where biBitCount is 0.
 VXPLATFORM_API int GetDIBits(HDC dc, HBITMAP bitmap, UINT startScan, UINT scanLines, void* bits,
                              BITMAPINFO* info, UINT usage);
 
-// Blits.
+// Blits. A negative extent mirrors; its rectangle covers the start and what is before it. Only
+// pixels that have a source pixel are written. Overlapping copies read their source first.
 VXPLATFORM_API BOOL BitBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX,
                            int sourceY, DWORD rop);
 VXPLATFORM_API BOOL StretchBlt(HDC dc, int x, int y, int width, int height, HDC source, int sourceX,
@@ -99,6 +114,8 @@ VXPLATFORM_API BOOL GradientFill(HDC dc, const TRIVERTEX* vertices, DWORD vertex
 using HDRAWDIB = HANDLE;
 VXPLATFORM_API HDRAWDIB DrawDibOpen();
 VXPLATFORM_API BOOL DrawDibClose(HDRAWDIB handle);
+/// Draws a picture from memory like a blit from a surface that holds it: the source counts from
+/// the top left. An extent of -1 means the natural size; null bits stand behind the colours.
 VXPLATFORM_API BOOL DrawDibDraw(HDRAWDIB handle, HDC dc, int x, int y, int width, int height,
                                 const BITMAPINFOHEADER* header, const void* bits, int sourceX,
                                 int sourceY, int sourceWidth, int sourceHeight, UINT flags);

@@ -69,6 +69,17 @@ TEST(PixelBlocks, ARepaintsScratchSurfacesUseTheSameMemory) {
     EXPECT_LE(memory.size(), 6u);
 }
 
+TEST(PixelBlocks, ContextsAndBitmapsUseTheSamePlacesAgain) {
+    std::set<const void*> places;
+    for (int i = 0; i < 50; ++i) {
+        Canvas canvas(10, 10);
+        const GdiRef<DeviceContext> dc = FindContext(canvas.dc);
+        places.insert(dc.get());
+        places.insert(dc->state.bitmap.get());
+    }
+    EXPECT_LE(places.size(), 4u);
+}
+
 struct DropsLate {
     HBITMAP bitmap = nullptr;
     HDC dc = nullptr;
