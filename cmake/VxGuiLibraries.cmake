@@ -35,8 +35,10 @@ function(vxgui_add_library name sources)
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   # Names like BitBlt exist elsewhere too: our calls stay ours, and nobody else gets them.
-  target_link_options(${name} PRIVATE -Wl,-Bsymbolic
-                      $<$<NOT:$<BOOL:${VXGUI_SANITIZE}>>:-Wl,--no-undefined>)
+  target_link_options(${name} PRIVATE -Wl,-Bsymbolic)
+  if(NOT VXGUI_SANITIZE)
+    target_link_options(${name} PRIVATE -Wl,--no-undefined)
+  endif()
   add_library(VxGui::${name} ALIAS ${name})
 endfunction()
 
