@@ -22,7 +22,7 @@ public:
 
 private:
     Ref<core7::DefineFile> file_;
-    const String& name_;
+    const String name_;  // a copy: the reader may be about to set the text that it came from
 };
 
 }  // namespace vxgui
