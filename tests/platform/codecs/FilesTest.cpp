@@ -107,6 +107,18 @@ TEST(Decoders, ReadWhatOtherProgramsWrote) {
     }
 }
 
+TEST(Decoders, KnowByTheHeaderWhetherThereIsAlpha) {
+    for (const FileCase& each : kFiles) {
+        const std::vector<uint8_t> bytes = FileBytes(each.file);
+        const auto decoder = OpenImage(bytes);
+        ASSERT_TRUE(decoder) << each.file;
+        const TestPicture expected = test::ExpectedImage(each.file);
+        const bool opaque = std::all_of(expected.pixels.begin(), expected.pixels.end(),
+                                        [](uint32_t pixel) { return pixel >> 24 == 255; });
+        EXPECT_EQ(decoder->Header().hasAlpha, !opaque) << each.file;
+    }
+}
+
 TEST(Decoders, FillMemoryThatRunsFromTheBottomUp) {
     for (const FileCase& each : kFiles) {
         SCOPED_TRACE(each.file);

@@ -78,6 +78,7 @@ bool BmpDecoder::SetChannels() {
     BmpMasks masks = bmp_.masks;
     const bool undeclared = bmp_.bits == 32 && bmp_.compression == BmpCompression::None;
     if (undeclared && fourth_ == FourthByte::Kept) masks.alpha = 0xFF000000;
+    header_.hasAlpha = bmp_.bits > 8 && bmp_.bits != 24 && masks.alpha != 0;
     return (masks.red | masks.green | masks.blue) != 0 && blue_.SetMask(masks.blue, 0) &&
            green_.SetMask(masks.green, 0) && red_.SetMask(masks.red, 0) &&
            alpha_.SetMask(masks.alpha, 255);

@@ -65,6 +65,9 @@ bool GifDecoder::ReadFrameHeader() {
     if (DGifGetImageDesc(file_) == GIF_ERROR) return false;
     header_.width = file_->SWidth ? file_->SWidth : Frame().Left + Frame().Width;
     header_.height = file_->SHeight ? file_->SHeight : Frame().Top + Frame().Height;
+    const bool covered = Frame().Left == 0 && Frame().Top == 0 && Frame().Width >= header_.width &&
+                         Frame().Height >= header_.height;
+    header_.hasAlpha = !covered || transparent_ != NO_TRANSPARENT_COLOR;
     return ApartmentDecodeLimits().Allow(Frame().Width, Frame().Height);
 }
 

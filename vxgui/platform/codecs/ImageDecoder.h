@@ -19,6 +19,7 @@ struct ImageHeader {
     ImageFormat format;
     int32_t width;
     int32_t height;
+    bool hasAlpha;  ///< false: every pixel is opaque
 };
 
 /// The caller's memory for a decoded picture: rows of 32-bit pixels, blue lowest, with straight
@@ -42,7 +43,7 @@ public:
     virtual bool Decode(const PixelRows& rows) = 0;
 
 protected:
-    explicit ImageDecoder(ImageFormat format) : header_{format, 0, 0} {}
+    explicit ImageDecoder(ImageFormat format) : header_{format, 0, 0, false} {}
 
     ImageHeader header_;
 };

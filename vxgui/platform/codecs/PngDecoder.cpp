@@ -60,6 +60,8 @@ bool PngDecoder::ReadHeader() {
     if (!read) return false;
     header_.width = static_cast<int32_t>(png_get_image_width(png_, info_));
     header_.height = static_cast<int32_t>(png_get_image_height(png_, info_));
+    header_.hasAlpha = (png_get_color_type(png_, info_) & PNG_COLOR_MASK_ALPHA) != 0 ||
+                       png_get_valid(png_, info_, PNG_INFO_tRNS) != 0;
     return true;
 }
 

@@ -89,10 +89,11 @@ public:
     bool Decode(const PixelRows& rows) override;
 
 private:
-    bool TakeAlphaAsItIs();
+    void TakeAlphaAsItIs();
 
     MemoryFile file_;
     TiffHandle tiff_;
+    bool multiplied_ = false;
 };
 
 bool TiffDecoder::ReadHeader() {
@@ -104,27 +105,26 @@ bool TiffDecoder::ReadHeader() {
     }
     header_.width = static_cast<int32_t>(std::min(width, 0x7FFFFFFFu));
     header_.height = static_cast<int32_t>(std::min(height, 0x7FFFFFFFu));
+    TakeAlphaAsItIs();
     return true;
 }
 
-// Answers whether the stored colours are multiplied by the alpha. The library would multiply the
-// others, and lose what straight pixels need: told that they are multiplied already, it keeps them.
-bool TiffDecoder::TakeAlphaAsItIs() {
+// Notes an alpha, and whether the stored colours are multiplied by it. The library would multiply
+// the others, and lose what straight pixels need: told that they are multiplied already, it keeps
+// them.
+void TiffDecoder::TakeAlphaAsItIs() {
     uint16_t count = 0;
     uint16_t* kinds = nullptr;
-    if (!TIFFGetField(tiff_.get(), TIFFTAG_EXTRASAMPLES, &count, &kinds) || count == 0)
-        return false;
-    const bool multiplied = kinds[0] == EXTRASAMPLE_ASSOCALPHA;
-    if (kinds[0] == EXTRASAMPLE_UNASSALPHA) {
-        std::vector<uint16_t> changed(kinds, kinds + count);
-        changed[0] = EXTRASAMPLE_ASSOCALPHA;
-        TIFFSetField(tiff_.get(), TIFFTAG_EXTRASAMPLES, count, changed.data());
-    }
-    return multiplied;
+    if (!TIFFGetField(tiff_.get(), TIFFTAG_EXTRASAMPLES, &count, &kinds) || count == 0) return;
+    header_.hasAlpha = true;
+    multiplied_ = kinds[0] == EXTRASAMPLE_ASSOCALPHA;
+    if (kinds[0] != EXTRASAMPLE_UNASSALPHA) return;
+    std::vector<uint16_t> changed(kinds, kinds + count);
+    changed[0] = EXTRASAMPLE_ASSOCALPHA;
+    TIFFSetField(tiff_.get(), TIFFTAG_EXTRASAMPLES, count, changed.data());
 }
 
 bool TiffDecoder::Decode(const PixelRows& rows) {
-    const bool multiplied = TakeAlphaAsItIs();
     const auto width = static_cast<size_t>(header_.width);
     std::vector<uint32_t> raster(width * static_cast<size_t>(header_.height));
     if (!TIFFReadRGBAImageOriented(tiff_.get(), static_cast<uint32_t>(header_.width),
@@ -137,7 +137,7 @@ bool TiffDecoder::Decode(const PixelRows& rows) {
         uint8_t* to = rows.Row(y);
         for (size_t x = 0; x < width; ++x, to += 4) {
             const uint32_t pixel = BgraFromRgba(*from++);
-            const uint32_t straight = multiplied ? Unmultiplied(pixel) : pixel;
+            const uint32_t straight = multiplied_ ? Unmultiplied(pixel) : pixel;
             std::memcpy(to, &straight, 4);
         }
     }

@@ -1,6 +1,6 @@
-#include <array>
+#include <cstring>
 
-#include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/platform/gdi_dib.h"
 #include "vxgui/platform/gdiplus/Bitmap.h"
 #include "vxgui/platform/gdiplus/FlatCall.h"
 #include "vxgui/platform/gdiplus_images.h"
@@ -24,20 +24,6 @@ uint32_t PremultipliedOver(uint32_t pixel, ARGB background) {
     return result;
 }
 
-gdi::HBITMAP CreateDib(const Bitmap& bitmap, uint32_t** pixels) {
-    gdi::BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = static_cast<LONG>(bitmap.Width());
-    info.bmiHeader.biHeight = static_cast<LONG>(bitmap.Height());
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const gdi::HBITMAP dib =
-        gdi::CreateDIBSection(nullptr, &info, gdi::DIB_RGB_COLORS, &bits, nullptr, 0);
-    *pixels = static_cast<uint32_t*>(bits);
-    return dib;
-}
-
 }  // namespace
 
 extern "C" GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* result,
@@ -45,13 +31,15 @@ extern "C" GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* 
     return FlatCreate(result, [&] {
         const Ref<Bitmap> found = Find<Bitmap>(bitmap);
         if (!found) return InvalidParameter;
-        uint32_t* to = nullptr;
-        *result = CreateDib(*found, &to);
+        uint8_t* to = nullptr;
+        *result = gdi::CreateDib(static_cast<int32_t>(found->Width()),
+                                 static_cast<int32_t>(found->Height()), 32, &to);
         if (!*result) return OutOfMemory;
         for (auto y = static_cast<int32_t>(found->Height()); y-- > 0;) {
             const uint32_t* from = found->Row(y);
-            for (UINT x = 0; x < found->Width(); ++x) {
-                *to++ = PremultipliedOver(from[x], background);
+            for (UINT x = 0; x < found->Width(); ++x, to += 4) {
+                const uint32_t pixel = PremultipliedOver(from[x], background);
+                std::memcpy(to, &pixel, 4);
             }
         }
         return Ok;
