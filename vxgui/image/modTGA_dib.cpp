@@ -2,28 +2,17 @@
 #include <limits>
 
 #include "vxgui/image/modTGA.h"
-#include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/platform/gdi_dib.h"
 
 namespace vxgui {
 namespace {
 
 gdi::HBITMAP DibOfPixels(const TgaRecord& record) {
-    gdi::BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = record.header.width;
-    info.bmiHeader.biHeight = record.header.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biSizeImage = static_cast<DWORD>(record.pixels.size() * sizeof(ARGB));
-    void* bits = nullptr;
+    uint8_t* bits = nullptr;
     const gdi::HBITMAP bitmap =
-        gdi::CreateDIBSection(nullptr, &info, gdi::DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (bits) {
-        std::memcpy(bits, record.pixels.data(), record.pixels.size() * sizeof(ARGB));
-        return bitmap;
-    }
-    if (bitmap) gdi::DeleteObject(bitmap);
-    return nullptr;
+        gdi::CreateDib(record.header.width, record.header.height, 32, &bits);
+    if (bitmap) std::memcpy(bits, record.pixels.data(), record.pixels.size() * sizeof(ARGB));
+    return bitmap;
 }
 
 }  // namespace

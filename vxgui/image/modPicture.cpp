@@ -1,0 +1,67 @@
+#include "vxgui/image/modPicture.h"
+
+#include "vxgui/frame/modGdiplus.h"
+#include "vxgui/image/modTGA.h"
+#include "vxgui/platform/core7.h"
+
+namespace vxgui {
+namespace {
+
+constexpr uint32_t kOpaque = 0xFF000000;
+
+uint32_t OrDefault(int32_t background) {
+    return static_cast<uint32_t>(background ? background : kDefaultBackground);
+}
+
+uint32_t MadeOpaque(uint32_t background) {
+    return background & kOpaque ? background : background | kOpaque;
+}
+
+// A device bitmap of what `create` answers with Ok. Unbound functions answer Ok with nothing
+// done: the handles stay null then, and so does the result.
+template <class Create>
+gdi::HBITMAP HBitmapOf(Create create, uint32_t background) {
+    gdiplus::GpBitmap* bitmap = nullptr;
+    if (create(&bitmap) != gdiplus::Ok) return nullptr;
+    gdi::HBITMAP handle = nullptr;
+    flat::GdipCreateHBITMAPFromBitmap(bitmap, &handle, background);
+    flat::GdipDisposeImage(reinterpret_cast<gdiplus::GpImage*>(bitmap));
+    return handle;
+}
+
+}  // namespace
+
+gdi::HBITMAP GdipFileToHBitmap(const String& filename, int32_t background) {
+    return HBitmapOf(
+        [&](auto bitmap) { return flat::GdipCreateBitmapFromFile(filename.data(), bitmap); },
+        MadeOpaque(OrDefault(background)));
+}
+
+gdi::HBITMAP GdipMemoryToHBitmap(const void* address, int32_t size, int32_t background) {
+    const Ref<ole::IStream> stream = MemoryToStream(address, size);
+    if (!stream) return nullptr;
+    return HBitmapOf(
+        [&](auto bitmap) { return flat::GdipCreateBitmapFromStream(stream.get(), bitmap); },
+        OrDefault(background));
+}
+
+gdi::HBITMAP TgaFileToHBitmap(const String& filename) {
+    ByteArray bytes;
+    return core7::ReadWholeFile(filename, &bytes) ? TgaArrayToDib(bytes) : nullptr;
+}
+
+Ref<ole::Picture> OleMemoryToPicture(const void* address, int32_t size) {
+    if (!address || size <= 0) return nullptr;
+    return ole::OleLoadPicture(address, static_cast<size_t>(size));
+}
+
+gdi::HGDIOBJ LoadPictureHandle(const String& filename, int16_t& picType, int32_t background) {
+    const String ending = filename.Right(4).Lower();
+    // The drawing layer has no icons, so that an icon's file gives no handle.
+    const bool icon = ending == ".ico" || ending == ".cur";
+    picType = icon ? ole::kPictureIcon : ole::kPictureBitmap;
+    if (icon) return nullptr;
+    return ending == ".tga" ? TgaFileToHBitmap(filename) : GdipFileToHBitmap(filename, background);
+}
+
+}  // namespace vxgui
