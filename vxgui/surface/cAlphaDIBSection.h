@@ -122,6 +122,21 @@ public:
                                    int32_t lSrcWidth = -1, int32_t lSrcHeight = -1,
                                    uint8_t lConstantAlpha = 255, bool bHasAlphaChannel = true);
 
+    // Scaling and smoothing.
+    /// A new surface of that size, height first; none when it can't be made. At the surface's own
+    /// size it is a copy, at any other its alpha is 0 throughout.
+    virtual Ref<cAlphaDIBSection> Resample(int32_t lNewHeight, int32_t lNewWidth);
+    /// Each pixel becomes the mean of those around it; with `UseColor` all pixels then take
+    /// `Color`, a COLORREF, under the blurred alpha.
+    virtual void blur(int32_t BlurWidth, int32_t BlurHeight, int32_t UseColor, int32_t Color);
+    /// Blurs all four channels, each direction by its own radius; what lies outside counts as
+    /// transparent. 0, or below 0 for an empty surface.
+    virtual int32_t GaussianBlur(int32_t radiusX = 4, int32_t radiusY = 4);
+    /// The same for a rectangle of pixels in memory order, ends included; a second corner that
+    /// is under 1 or outside is the last column or row.
+    virtual int32_t GaussianBlurEx(int32_t radiusX = 4, int32_t radiusY = 4, int32_t x1 = 0,
+                                   int32_t y1 = 0, int32_t x2 = 0, int32_t y2 = 0);
+
     // Transparency.
     /// Alpha 0 where the colour is the key; other pixels keep theirs. The result is empty.
     virtual Variant SetTransColor(int32_t Color = DefaultTransColor);
@@ -188,6 +203,8 @@ public:
     VXGUI_LOCAL bool HasAlphaCached();
     /// Pixels of the colour (in pixel form, 24 bits) become 0, all others opaque black.
     VXGUI_LOCAL void MaskFromColor(int32_t colour);
+    /// Scales the colours to the size of `dst`, whose alpha stays. False when one has no pixels.
+    VXGUI_LOCAL bool ResampleBilinear(const Ref<cAlphaDIBSection>& dst);
     /// The pixels whose memory is really there, in memory order: none when the surface is
     /// empty or its bitmap has gone, fewer than `Width` times `Height` for a bitmap that a
     /// stored header made smaller.
