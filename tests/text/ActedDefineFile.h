@@ -48,11 +48,4 @@ private:
     std::vector<core7::DefineProblem> problems_;
 };
 
-/// A define file of a section "S" with the lines of `text`.
-inline Ref<core7::DefineFile> DefineFileOf(const String& text) {
-    const Ref<core7::DefineFile> file = core7::CreateDefineFile();
-    file->LoadText("[S]\n" + text);
-    return file;
-}
-
 }  // namespace vxgui::test

@@ -1,155 +1,182 @@
 #include <gtest/gtest.h>
 
-#include "vxgui/platform/gdi_surfaces.h"
+#include <cstring>
+
+#include "tests/text/TextSupport.h"
 #include "vxgui/text/LFont.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
 namespace {
 
-Ref<LFont> Named() {
-    const Ref<LFont> font = New<LFont>();
-    font->Create("DejaVu Serif", -16, 0, 0, 0, 400, 1, 1, 1, 134);
-    return font;
-}
+using test::IsAlive;
 
-TEST(StandardFont, HasTheFontsProperties) {
-    const Ref<ole::StdFont> standard = Named()->StdFont();
-    EXPECT_EQ(standard->Name(), String("DejaVu Serif"));
+TEST(LFontStdFont, HasThePropertiesOfTheFont) {
+    const Ref<LFont> font = New<LFont>();
+    font->Create("Face", -12, 0, 0, 0, 650, 1, 7, 9, 134);
+    const Ref<ole::StdFont> standard = font->StdFont();
+    EXPECT_EQ(standard->Name(), "Face");
     EXPECT_EQ(standard->Charset(), 134);
-    EXPECT_EQ(standard->Size(), 12.0);
-    EXPECT_FALSE(standard->Bold());
+    EXPECT_EQ(standard->Size(), 9);
+    EXPECT_TRUE(standard->Bold());
     EXPECT_TRUE(standard->Italic());
     EXPECT_TRUE(standard->Underline());
     EXPECT_TRUE(standard->Strikethrough());
-    EXPECT_EQ(standard->Weight(), 400);
+    EXPECT_EQ(standard->Weight(), 650);
 }
 
-TEST(StandardFont, IsBoldFrom600Up) {
-    const Ref<LFont> font = Named();
-    font->Weight = 599;
-    EXPECT_EQ(font->StdFont()->Weight(), 599);
+TEST(LFontStdFont, IsBoldFromWeight600) {
+    const Ref<LFont> font = New<LFont>();
     font->Weight = 600;
     EXPECT_TRUE(font->StdFont()->Bold());
-    EXPECT_EQ(font->StdFont()->Weight(), 600);
-    // A weight that the object refuses leaves what bold made of it.
-    font->Weight = 40000;
-    EXPECT_EQ(font->StdFont()->Weight(), 700);
-    font->Weight = -40000;
-    EXPECT_EQ(font->StdFont()->Weight(), 400);
+    font->Weight = 599;
     EXPECT_FALSE(font->StdFont()->Bold());
+    EXPECT_EQ(font->StdFont()->Weight(), 599);
 }
 
-TEST(StandardFont, SkipsAPropertyThatIsRefused) {
-    const Ref<LFont> font = Named();
-    font->Height = INT32_MIN;  // its size in points wraps below zero or not, never into an error
-    font->Weight = 100000;
-    const Ref<ole::StdFont> standard = font->StdFont();
-    EXPECT_TRUE(standard->Strikethrough()) << "what follows is still set";
-}
-
-TEST(StandardFont, IsAnotherObjectEachTime) {
-    const Ref<LFont> font = Named();
-    const Ref<ole::StdFont> first = font->StdFont();
-    EXPECT_FALSE(first == font->StdFont());
-}
-
-struct FollowRow {
-    const char* name;
-    void (*change)(ole::StdFont&);
-    bool (*followed)(const LFont&);
-};
-class FollowedProperty : public testing::TestWithParam<FollowRow> {};
-INSTANTIATE_TEST_SUITE_P(
-    , FollowedProperty,
-    testing::Values(FollowRow{"Name", [](ole::StdFont& s) { s.Name("Other"); },
-                              [](const LFont& f) { return f.Name == String("Other"); }},
-                    FollowRow{"CharSet", [](ole::StdFont& s) { s.Charset(128); },
-                              [](const LFont& f) { return f.CharSet == 128; }},
-                    FollowRow{"Size", [](ole::StdFont& s) { s.Size(9); },
-                              [](const LFont& f) { return f.Height == -12; }},
-                    FollowRow{"Bold", [](ole::StdFont& s) { s.Bold(true); },
-                              [](const LFont& f) { return f.Weight == 600; }},
-                    FollowRow{"Italic", [](ole::StdFont& s) { s.Italic(false); },
-                              [](const LFont& f) { return f.Italic == 0; }},
-                    FollowRow{"Underline", [](ole::StdFont& s) { s.Underline(false); },
-                              [](const LFont& f) { return f.Underline == 0; }},
-                    FollowRow{"Strikethrough", [](ole::StdFont& s) { s.Strikethrough(false); },
-                              [](const LFont& f) { return f.StrikeOut == 0; }},
-                    FollowRow{"Weight", [](ole::StdFont& s) { s.Weight(300); },
-                              [](const LFont& f) { return f.Weight == 300; }}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_P(FollowedProperty, IsTakenOverAndDropsTheHandle) {
-    const Ref<LFont> font = Named();
-    const Ref<ole::StdFont> standard = font->StdFont();
-    const gdi::HFONT handle = font->hFont();
-    GetParam().change(*standard);
-    EXPECT_TRUE(GetParam().followed(*font));
-    EXPECT_EQ(gdi::GetObjectA(handle, 0, nullptr), 0);
-}
-
-TEST(FollowedFont, FlagsBecomeOneAndBoldEndsAtRegular) {
+TEST(LFontStdFont, SkipsWhatTheNewObjectRefuses) {
     const Ref<LFont> font = New<LFont>();
-    font->Weight = 700;
+    font->Create("Face", 2000000000, 0, 0, 0, 70000, 1);
     const Ref<ole::StdFont> standard = font->StdFont();
-    standard->Italic(true);
-    standard->Underline(true);
-    standard->Strikethrough(true);
+    EXPECT_EQ(standard->Name(), "Face");
+    EXPECT_TRUE(standard->Italic());
+    EXPECT_EQ(standard->Weight(), 700);  // what being bold has made of it
+}
+
+TEST(LFontStdFont, IsAnotherObjectAtEachCall) {
+    const Ref<LFont> font = New<LFont>();
+    EXPECT_FALSE(font->StdFont() == font->StdFont());
+}
+
+struct ChangeCase {
+    const char* name;
+    std::function<void(ole::StdFont&)> change;
+    std::function<void(LFont&)> expected;
+};
+
+TEST(LFontFollowing, TakesEachPropertyByItsName) {
+    const ChangeCase cases[] = {
+        {"Name", [](auto& s) { s.Name("Other"); }, [](auto& f) { f.Name = "Other"; }},
+        {"CharSet", [](auto& s) { s.Charset(134); }, [](auto& f) { f.CharSet = 134; }},
+        {"Size", [](auto& s) { s.Size(12); },
+         [](auto& f) {
+             f.Height = -16;
+             f.Width = 0;
+         }},
+        {"Bold", [](auto& s) { s.Bold(true); }, [](auto& f) { f.Weight = 600; }},
+        {"Italic", [](auto& s) { s.Italic(true); }, [](auto& f) { f.Italic = 1; }},
+        {"Underline", [](auto& s) { s.Underline(true); }, [](auto& f) { f.Underline = 1; }},
+        {"Strikethrough", [](auto& s) { s.Strikethrough(true); }, [](auto& f) { f.StrikeOut = 1; }},
+        {"Weight", [](auto& s) { s.Weight(300); }, [](auto& f) { f.Weight = 300; }},
+    };
+    for (const ChangeCase& c : cases) {
+        const Ref<LFont> font = New<LFont>();
+        font->Create("Face", -12, 5);
+        const Ref<LFont> expected = font->Clone();
+        c.change(*font->StdFont());
+        c.expected(*expected);
+        EXPECT_TRUE(font->Equal(expected)) << c.name;
+    }
+}
+
+TEST(LFontFollowing, NoLongerBoldIsTheRegularWeight) {
+    const Ref<LFont> font = New<LFont>();
+    font->Weight = 900;
+    const Ref<ole::StdFont> standard = font->StdFont();
     standard->Bold(false);
-    EXPECT_EQ(font->Italic, 1);
-    EXPECT_EQ(font->Underline, 1);
-    EXPECT_EQ(font->StrikeOut, 1);
     EXPECT_EQ(font->Weight, 400);
 }
 
-TEST(FollowedFont, OnlyTheLatestIsFollowed) {
-    const Ref<LFont> font = Named();
-    const Ref<ole::StdFont> first = font->StdFont();
-    const Ref<ole::StdFont> second = font->StdFont();
-    first->Name("First");
-    EXPECT_EQ(font->Name, String("DejaVu Serif"));
-    second->Name("Second");
-    EXPECT_EQ(font->Name, String("Second"));
+TEST(LFontFollowing, DropsTheHandle) {
+    const Ref<LFont> font = New<LFont>();
+    font->Name = "DejaVu Sans";
+    const gdi::HFONT handle = font->hFont();
+    font->StdFont()->Italic(true);
+    EXPECT_FALSE(IsAlive(handle));
 }
 
-TEST(FollowedFont, OutlivesTheFontThatFollowed) {
-    Ref<LFont> font = Named();
+TEST(LFontFollowing, OnlyTheLatestIsWatched) {
+    const Ref<LFont> font = New<LFont>();
+    const Ref<ole::StdFont> first = font->StdFont(), second = font->StdFont();
+    first->Weight(100);
+    EXPECT_EQ(font->Weight, 400);
+    second->Weight(200);
+    EXPECT_EQ(font->Weight, 200);
+}
+
+TEST(LFontFollowing, EndsWithTheFont) {
+    Ref<LFont> font = New<LFont>();
     const Ref<ole::StdFont> standard = font->StdFont();
     font = nullptr;
-    standard->Name("Alone");
-    EXPECT_EQ(standard->Name(), String("Alone"));
+    standard->Weight(100);
+    EXPECT_EQ(standard->Weight(), 100);
 }
 
-TEST(FontFromStandardFont, TakesItsHandlesRecordAndTheQuality) {
-    const Ref<ole::StdFont> standard = New<ole::StdFont>();
-    standard->Name("DejaVu Serif");
-    standard->Size(9);
-    standard->Bold(true);
-    standard->Italic(true);
-    standard->Charset(134);
+gdi::LOGFONTA FilledRecord() {
+    gdi::LOGFONTA record{-20, 3, 450, 900, 700, 1, 2, 3, 134, 5, 6, 4, 34, {}};
+    std::memset(record.lfFaceName, 'x', sizeof record.lfFaceName);
+    return record;
+}
+
+TEST(LFontFromLogFont, TakesEachNumberAndTheName) {
+    gdi::LOGFONTA record = FilledRecord();
+    std::memcpy(record.lfFaceName, "F\xE9\0more", 7);
+    const Ref<LFont> font = New<LFont>(), expected = New<LFont>();
+    const Ref<TextStyle> style = New<TextStyle>();
+    font->DrawingStyle = style;
+    font->FromLogFont(record);
+    expected->Create(u"F\u00E9", -20, 3, 450, 900, 700, 1, 2, 3, 134, 5, 6, 4, 34);
+    EXPECT_TRUE(font->Equal(expected));
+    EXPECT_EQ(font->DrawingStyle, style);
+}
+
+TEST(LFontFromLogFont, ANameMayFillItsPlaceWithoutAnEnd) {
     const Ref<LFont> font = New<LFont>();
-    font->FromStdFont(standard, ANTIALIASED_QUALITY);
-    EXPECT_EQ(font->Name, String("DejaVu Serif"));
+    font->FromLogFont(FilledRecord());
+    EXPECT_EQ(font->Name, String(std::string(32, 'x')));
+}
+
+TEST(LFontFromStdFont, TakesItsHandlesRecordWithTheQualityAskedFor) {
+    const Ref<ole::StdFont> standard = New<ole::StdFont>();
+    standard->Name("DejaVu Sans");
+    standard->Size(9);
+    standard->Weight(700);
+    standard->Italic(true);
+    standard->Charset(1);
+    const Ref<LFont> font = New<LFont>();
+    font->FromStdFont(standard, CLEARTYPE_QUALITY);
+    EXPECT_EQ(font->Name, "DejaVu Sans");
     EXPECT_EQ(font->Height, -12);
     EXPECT_EQ(font->Weight, 700);
     EXPECT_EQ(font->Italic, 1);
-    EXPECT_EQ(font->CharSet, 134);
-    EXPECT_EQ(font->Quality, ANTIALIASED_QUALITY);
+    EXPECT_EQ(font->CharSet, 1);
+    EXPECT_EQ(font->Quality, CLEARTYPE_QUALITY);
+    font->FromStdFont(standard);
+    EXPECT_EQ(font->Quality, DEFAULT_QUALITY);
 }
 
-TEST(FontFromStandardFont, NoneIsTheUserInterfaceFont) {
-    const Ref<LFont> font = Named();
-    font->FromStdFont(nullptr, NONANTIALIASED_QUALITY);
-    EXPECT_EQ(font->Name, String("MS Shell Dlg"));
-    EXPECT_EQ(font->Quality, NONANTIALIASED_QUALITY);
+void ExpectGuiFont(const LFont& font, uint8_t quality) {
+    const auto stock = static_cast<gdi::HFONT>(gdi::GetStockObject(gdi::DEFAULT_GUI_FONT));
+    const gdi::LOGFONTA record = test::RecordOf(stock);
+    EXPECT_EQ(font.Name, record.lfFaceName);
+    EXPECT_EQ(font.Height, record.lfHeight);
+    EXPECT_EQ(font.Weight, record.lfWeight);
+    EXPECT_EQ(font.PitchAndFamily, record.lfPitchAndFamily);
+    EXPECT_EQ(font.Quality, quality);
 }
 
-TEST(FontFromStandardFont, GoesThereAndBack) {
-    const Ref<LFont> font = Named();
-    const Ref<LFont> back = New<LFont>();
-    back->FromStdFont(font->StdFont());
-    EXPECT_TRUE(back->Equal(font));
+TEST(LFontFromStdFont, NoneIsThePlatformsFont) {
+    const Ref<LFont> font = New<LFont>();
+    font->FromStdFont(nullptr, ANTIALIASED_QUALITY);
+    ExpectGuiFont(*font, ANTIALIASED_QUALITY);
+}
+
+TEST(LFontDefaultGuiFont, TakesTheStockFontsValuesAndMakesAHandleOfItsOwn) {
+    const Ref<LFont> font = New<LFont>();
+    font->DefaultGuiFont(PROOF_QUALITY);
+    ExpectGuiFont(*font, PROOF_QUALITY);
+    EXPECT_FALSE(font->Name.empty());
+    EXPECT_NE(font->hFont(), gdi::GetStockObject(gdi::DEFAULT_GUI_FONT));
 }
 
 }  // namespace

@@ -2,21 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include "TextTestSupport.h"
+#include "tests/support/Errors.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
 namespace {
 
-/// A font with no field at its default.
-Ref<LFont> Unusual() {
-    const Ref<LFont> font = New<LFont>();
-    font->Create("Face", -7, 2, 3, 4, 500, 5, 6, 7, 8, 9, 10, 11, 12);
+constexpr int32_t kOverflow = 6;
+
+Ref<LFont> FilledFont() {
+    Ref<LFont> font = New<LFont>();
+    font->Create("Face", -20, 3, 450, 900, 700, 1, 2, 3, 134, 5, 6, 4, 34);
     return font;
 }
 
-TEST(LFont, ANewOneHasItsDefaults) {
+TEST(LFont, ANewOneHasTheDocumentedValues) {
     const Ref<LFont> font = New<LFont>();
     EXPECT_EQ(font->Height, 12);
     EXPECT_EQ(font->Width, 0);
@@ -31,7 +32,7 @@ TEST(LFont, ANewOneHasItsDefaults) {
     EXPECT_EQ(font->ClipPrecision, 0);
     EXPECT_EQ(font->Quality, DEFAULT_QUALITY);
     EXPECT_EQ(font->PitchAndFamily, 0);
-    EXPECT_TRUE(font->Name.empty());
+    EXPECT_EQ(font->Name, "");
     EXPECT_EQ(font->DrawingStyle, nullptr);
 }
 
@@ -44,132 +45,120 @@ TEST(LFont, QualitiesHaveThePublishedValues) {
     EXPECT_EQ(CLEARTYPE_QUALITY, 5);
 }
 
-TEST(LFont, CreateSetsEveryField) {
-    const Ref<LFont> font = Unusual();
-    EXPECT_EQ(font->Name, String("Face"));
-    EXPECT_EQ(font->Height, -7);
-    EXPECT_EQ(font->Width, 2);
-    EXPECT_EQ(font->Escapement, 3);
-    EXPECT_EQ(font->Orientation, 4);
-    EXPECT_EQ(font->Weight, 500);
-    EXPECT_EQ(font->Italic, 5);
-    EXPECT_EQ(font->Underline, 6);
-    EXPECT_EQ(font->StrikeOut, 7);
-    EXPECT_EQ(font->CharSet, 8);
-    EXPECT_EQ(font->OutPrecision, 9);
-    EXPECT_EQ(font->ClipPrecision, 10);
-    EXPECT_EQ(font->Quality, 11);
-    EXPECT_EQ(font->PitchAndFamily, 12);
+TEST(LFont, CreateSetsEveryFieldInItsOrder) {
+    const Ref<LFont> font = FilledFont();
+    EXPECT_EQ(font->Name, "Face");
+    EXPECT_EQ(font->Height, -20);
+    EXPECT_EQ(font->Width, 3);
+    EXPECT_EQ(font->Escapement, 450);
+    EXPECT_EQ(font->Orientation, 900);
+    EXPECT_EQ(font->Weight, 700);
+    EXPECT_EQ(font->Italic, 1);
+    EXPECT_EQ(font->Underline, 2);
+    EXPECT_EQ(font->StrikeOut, 3);
+    EXPECT_EQ(font->CharSet, 134);
+    EXPECT_EQ(font->OutPrecision, 5);
+    EXPECT_EQ(font->ClipPrecision, 6);
+    EXPECT_EQ(font->Quality, 4);
+    EXPECT_EQ(font->PitchAndFamily, 34);
 }
 
-TEST(LFont, CreateHasDefaultsOfItsOwn) {
-    const Ref<LFont> font = Unusual();
+TEST(LFont, CreateHasDefaultsOfItsOwnAndLeavesTheDrawingStyle) {
+    const Ref<LFont> font = FilledFont();
     const Ref<TextStyle> style = New<TextStyle>();
     font->DrawingStyle = style;
     font->Create("Other");
-    EXPECT_EQ(font->Name, String("Other"));
-    EXPECT_EQ(font->Height, 12);
-    EXPECT_EQ(font->Width, 0);
-    EXPECT_EQ(font->Weight, 400);
-    EXPECT_EQ(font->Italic, 0);
-    EXPECT_EQ(font->CharSet, 0) << "a new object has 1";
-    EXPECT_EQ(font->PitchAndFamily, 0);
-    EXPECT_EQ(font->DrawingStyle, style) << "is left alone";
+    const Ref<LFont> expected = New<LFont>();
+    expected->Name = "Other";
+    expected->CharSet = 0;  // 1 in a new object
+    EXPECT_TRUE(font->Equal(expected));
+    EXPECT_EQ(font->DrawingStyle, style);
 }
 
-TEST(LFont, AHeightOfEitherSignReadsAsTheSameSize) {
-    const Ref<LFont> font = New<LFont>();
-    font->Height = 12;
-    EXPECT_EQ(font->SIZE(), 9.0f);
-    font->Height = -12;
-    EXPECT_EQ(font->SIZE(), 9.0f);
-    font->Height = 0;
-    EXPECT_EQ(font->SIZE(), 0.0f);
-}
-
-TEST(LFont, ASizeIsNotRounded) {
-    const Ref<LFont> font = New<LFont>();
-    font->Height = -11;
-    EXPECT_EQ(font->SIZE(), 8.25f);
-    font->Height = -1;
-    EXPECT_EQ(font->SIZE(), 0.75f);
-}
-
-TEST(LFont, ASizeMakesANegativeHeightAndNoWidth) {
-    const Ref<LFont> font = New<LFont>();
-    font->Width = 5;
-    font->SIZE(9);
-    EXPECT_EQ(font->Height, -12);
-    EXPECT_EQ(font->Width, 0);
-    font->SIZE(0);
-    EXPECT_EQ(font->Height, 0);
-    font->SIZE(-9);
-    EXPECT_EQ(font->Height, 12);
-}
-
-TEST(LFont, ASizeRoundsHalvesToEven) {
-    const Ref<LFont> font = New<LFont>();
-    font->SIZE(1.875f);  // 2.5 pixels
-    EXPECT_EQ(font->Height, -2);
-    font->SIZE(2.625f);  // 3.5 pixels
-    EXPECT_EQ(font->Height, -4);
-}
-
-TEST(LFont, ASizeThatNoHeightHoldsRaisesOverflow) {
-    const Ref<LFont> font = New<LFont>();
-    EXPECT_EQ(test::ErrorOf([&] { font->SIZE(3e9f); }), 6);
-}
-
-class ScreenOf144Dots : public testing::Test {
-protected:
-    ScreenOf144Dots() { gdi::SetScreenDpi(144); }
-    ~ScreenOf144Dots() override { gdi::SetScreenDpi(96); }
-};
-
-TEST_F(ScreenOf144Dots, SizesFollowTheScreen) {
-    const Ref<LFont> font = New<LFont>();
-    font->SIZE(9);
-    EXPECT_EQ(font->Height, -18);
-    EXPECT_EQ(font->SIZE(), 9.0f);
-}
-
-TEST(LFont, EqualsItselfWhateverItsDrawingStyle) {
-    const Ref<LFont> font = Unusual();
+TEST(LFontEqual, IsTrueForItselfAndFalseForNone) {
+    const Ref<LFont> font = FilledFont();
     EXPECT_TRUE(font->Equal(font));
     EXPECT_FALSE(font->Equal(nullptr));
-    const Ref<LFont> other = Unusual();
-    font->DrawingStyle = New<TextStyle>();
-    other->DrawingStyle = New<TextStyle>();
-    other->DrawingStyle->TextColor = 5;
-    EXPECT_TRUE(font->Equal(other));
 }
 
-TEST(LFont, EqualComparesEveryField) {
-    using Change = void (*)(LFont&);
-    const Change changes[] = {
-        [](LFont& f) { f.Name = "face"; },  // the case counts
-        [](LFont& f) { ++f.Height; },        [](LFont& f) { ++f.Width; },
-        [](LFont& f) { ++f.Escapement; },    [](LFont& f) { ++f.Orientation; },
-        [](LFont& f) { ++f.Weight; },        [](LFont& f) { ++f.Italic; },
-        [](LFont& f) { ++f.Underline; },     [](LFont& f) { ++f.StrikeOut; },
-        [](LFont& f) { ++f.CharSet; },       [](LFont& f) { ++f.OutPrecision; },
-        [](LFont& f) { ++f.ClipPrecision; }, [](LFont& f) { ++f.Quality; },
-        [](LFont& f) { ++f.PitchAndFamily; }};
-    for (const Change change : changes) {
-        const Ref<LFont> other = Unusual();
-        change(*other);
-        EXPECT_FALSE(Unusual()->Equal(other));
+TEST(LFontEqual, DoesNotCompareTheDrawingStyle) {
+    const Ref<LFont> a = FilledFont(), b = FilledFont();
+    a->DrawingStyle = New<TextStyle>();
+    EXPECT_TRUE(a->Equal(b));
+}
+
+TEST(LFontEqual, ADifferenceInAnyOtherFieldCounts) {
+    const std::function<void(LFont&)> changes[] = {
+        [](LFont& f) { f.Name = "face"; },  // letter case counts
+        [](LFont& f) { ++f.Height; },         [](LFont& f) { ++f.Width; },
+        [](LFont& f) { ++f.Escapement; },     [](LFont& f) { ++f.Orientation; },
+        [](LFont& f) { ++f.Weight; },         [](LFont& f) { ++f.Italic; },
+        [](LFont& f) { ++f.Underline; },      [](LFont& f) { ++f.StrikeOut; },
+        [](LFont& f) { ++f.CharSet; },        [](LFont& f) { ++f.OutPrecision; },
+        [](LFont& f) { ++f.ClipPrecision; },  [](LFont& f) { ++f.Quality; },
+        [](LFont& f) { ++f.PitchAndFamily; },
+    };
+    const Ref<LFont> font = FilledFont();
+    for (size_t i = 0; i < std::size(changes); ++i) {
+        const Ref<LFont> other = FilledFont();
+        changes[i](*other);
+        EXPECT_FALSE(font->Equal(other)) << i;
+        EXPECT_FALSE(other->Equal(font)) << i;
     }
 }
 
-TEST(LFont, ACloneHasTheFieldsButNoDrawingStyleAndNoHandle) {
-    const Ref<LFont> font = Unusual();
+TEST(LFontClone, CopiesTheFieldsButNotTheDrawingStyle) {
+    const Ref<LFont> font = FilledFont();
     font->DrawingStyle = New<TextStyle>();
-    const gdi::HFONT handle = font->hFont();
-    const Ref<LFont> clone = font->Clone();
-    EXPECT_TRUE(clone->Equal(font));
-    EXPECT_EQ(clone->DrawingStyle, nullptr);
-    EXPECT_NE(clone->hFont(), handle);
+    const Ref<LFont> copy = font->Clone();
+    EXPECT_FALSE(copy == font);
+    EXPECT_TRUE(copy->Equal(font));
+    EXPECT_EQ(copy->DrawingStyle, nullptr);
+}
+
+/// Sets the screen's resolution for the length of a test.
+class LFontSize : public ::testing::Test {
+protected:
+    ~LFontSize() override { gdi::SetScreenDpi(96); }
+
+    Ref<LFont> font_ = New<LFont>();
+};
+
+TEST_F(LFontSize, IsTheHeightInPointsWithoutRounding) {
+    const struct {
+        int32_t height;
+        float points;
+    } cases[] = {{-12, 9}, {12, 9}, {-11, 8.25f}, {-1, 0.75f}, {0, 0}, {-100, 75}};
+    for (const auto& c : cases) {
+        font_->Height = c.height;
+        EXPECT_EQ(font_->SIZE(), c.points) << c.height;
+    }
+}
+
+TEST_F(LFontSize, SettingItGivesACharacterHeightRoundedHalfToEven) {
+    const struct {
+        float points;
+        int32_t height;
+    } cases[] = {{9, -12},     {8.25f, -11}, {0.375f, 0},  // half a pixel
+                 {1.125f, -2}, {1.875f, -2}, {2.625f, -4}, {0, 0}, {-9, 12}};
+    for (const auto& c : cases) {
+        font_->Width = 7;
+        font_->SIZE(c.points);
+        EXPECT_EQ(font_->Height, c.height) << c.points;
+        EXPECT_EQ(font_->Width, 0);
+    }
+}
+
+TEST_F(LFontSize, GoesByTheResolutionOfTheMoment) {
+    font_->SIZE(9);
+    gdi::SetScreenDpi(144);
+    EXPECT_EQ(font_->SIZE(), 6);
+    font_->SIZE(9);
+    EXPECT_EQ(font_->Height, -18);
+}
+
+TEST_F(LFontSize, BeyondAnyHeightRaisesTheOverflowError) {
+    EXPECT_EQ(test::RaisedBy([&] { font_->SIZE(1e10f); }), kOverflow);
 }
 
 }  // namespace

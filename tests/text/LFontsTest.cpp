@@ -1,5 +1,6 @@
 #include "vxgui/text/LFonts.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "vxgui/platform/gdi_surfaces.h"
@@ -8,111 +9,93 @@
 namespace vxgui {
 namespace {
 
-Ref<LFont> FontOf(int32_t height) {
-    const Ref<LFont> font = New<LFont>();
-    font->Height = height;
-    return font;
-}
+using ::testing::ElementsAre;
 
 TEST(LFonts, AddMakesAFontOfItsArguments) {
     const Ref<LFonts> fonts = New<LFonts>();
-    const Ref<LFont> font = fonts->Add("Face", "key", -7, 2, 3, 4, 500, 5, 6, 7, 8, 9, 10, 11, 12);
+    const Ref<LFont> font =
+        fonts->Add("Face", "Normal", -20, 3, 450, 900, 700, 1, 2, 3, 134, 5, 6, 4, 34);
     const Ref<LFont> expected = New<LFont>();
-    expected->Create("Face", -7, 2, 3, 4, 500, 5, 6, 7, 8, 9, 10, 11, 12);
+    expected->Create("Face", -20, 3, 450, 900, 700, 1, 2, 3, 134, 5, 6, 4, 34);
     EXPECT_TRUE(font->Equal(expected));
-    EXPECT_EQ(fonts->Item("key"), font);
+    EXPECT_EQ(fonts->Item("Normal"), font);
     const Ref<LFont> plain = fonts->Add("Face");
-    EXPECT_EQ(plain->Height, 12);
-    EXPECT_EQ(plain->Weight, 400);
-    EXPECT_EQ(plain->CharSet, 0);
+    expected->Create("Face");
+    EXPECT_TRUE(plain->Equal(expected));
     EXPECT_EQ(fonts->Item(2), plain);
 }
 
-TEST(LFonts, AddStdFontTakesAStandardFont) {
-    const Ref<ole::StdFont> standard = New<ole::StdFont>();
-    standard->Name("DejaVu Serif");
+TEST(LFonts, AddStdFontTakesTheFontAndTheQuality) {
     const Ref<LFonts> fonts = New<LFonts>();
-    const Ref<LFont> font = fonts->AddStdFont(standard, CLEARTYPE_QUALITY, "key");
-    EXPECT_EQ(font->Name, String("DejaVu Serif"));
+    const Ref<ole::StdFont> standard = New<ole::StdFont>();
+    standard->Name("DejaVu Sans");
+    const Ref<LFont> font = fonts->AddStdFont(standard, CLEARTYPE_QUALITY, "Focus");
+    EXPECT_EQ(font->Name, "DejaVu Sans");
     EXPECT_EQ(font->Quality, CLEARTYPE_QUALITY);
-    EXPECT_EQ(fonts->Item("key"), font);
-    EXPECT_EQ(fonts->AddStdFont(nullptr, 0)->Name, String("MS Shell Dlg"));
+    EXPECT_EQ(fonts->Item("Focus"), font);
 }
 
-TEST(LFonts, AddDefGuiFontAddsAFontWithoutAName) {
+TEST(LFonts, AddDefGuiFontAddsANewFontAsItIs) {
     const Ref<LFonts> fonts = New<LFonts>();
-    const Ref<LFont> font = fonts->AddDefGuiFont("key");
+    const Ref<LFont> font = fonts->AddDefGuiFont("Normal");
     EXPECT_TRUE(font->Equal(New<LFont>()));
     EXPECT_EQ(font->hFont(), gdi::GetStockObject(gdi::DEFAULT_GUI_FONT));
-    EXPECT_EQ(fonts->Item("key"), font);
+    EXPECT_EQ(fonts->Item("Normal"), font);
 }
 
-TEST(LFonts, AddItemReplacesUnderAKeyThatExists) {
+TEST(LFonts, AnExistingKeyIsReplacedAtTheEnd) {
     const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1), "a");
-    fonts->AddItem(FontOf(2), "b");
-    fonts->AddItem(FontOf(3), "A");
+    const Ref<LFont> first = fonts->Add("one", "a"), second = fonts->Add("two", "b");
+    const Ref<LFont> replacing = New<LFont>();
+    fonts->AddItem(replacing, "A");  // letter case does not matter
     EXPECT_EQ(fonts->Count(), 2);
-    EXPECT_EQ(fonts->Item("a")->Height, 3);
-    EXPECT_EQ(fonts->Item(1)->Height, 2);
-    EXPECT_EQ(fonts->Item(2)->Height, 3) << "the new one is last";
+    EXPECT_EQ(fonts->Item("a"), replacing);
+    EXPECT_EQ(fonts->Item(1), second);
+    EXPECT_EQ(fonts->Item(2), replacing);
 }
 
-TEST(LFonts, ItemsWithoutAKeyNeverReplace) {
+TEST(LFonts, WithoutAKeyNothingIsReplaced) {
     const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1));
-    fonts->AddItem(FontOf(2), "");
+    fonts->AddItem(New<LFont>());
+    fonts->AddItem(New<LFont>(), "");
     EXPECT_EQ(fonts->Count(), 2);
-    EXPECT_EQ(fonts->Item(2)->Height, 2);
 }
 
-TEST(LFonts, TheSameItemMayReplaceItself) {
+TEST(LFonts, UnknownItemsReadAsNoneAndAreRemovedInSilence) {
     const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1), "a");
-    fonts->AddItem(fonts->Item("a"), "a");
-    EXPECT_EQ(fonts->Count(), 1);
-    EXPECT_EQ(fonts->Item("a")->Height, 1);
-}
-
-TEST(LFonts, WhatIsNotThereReadsAsNone) {
-    const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1), "a");
+    fonts->Add("Face", "a");
     EXPECT_EQ(fonts->Item("b"), nullptr);
     EXPECT_EQ(fonts->Item(""), nullptr);
-    EXPECT_EQ(fonts->Item(0), nullptr);
-    EXPECT_EQ(fonts->Item(2), nullptr);
-    EXPECT_EQ(fonts->Item(-1), nullptr);
-}
-
-TEST(LFonts, RemoveIgnoresWhatIsNotThere) {
-    const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1), "a");
-    fonts->AddItem(FontOf(2));
+    for (const int32_t index : {0, 2, -1}) {
+        EXPECT_EQ(fonts->Item(index), nullptr);
+        fonts->Remove(index);
+    }
     fonts->Remove("b");
-    fonts->Remove(0);
-    fonts->Remove(3);
-    EXPECT_EQ(fonts->Count(), 2);
-    fonts->Remove("a");
-    EXPECT_EQ(fonts->Item(1)->Height, 2);
+    EXPECT_EQ(fonts->Count(), 1);
+}
+
+TEST(LFonts, RemoveTakesAnItemByIndexOrKey) {
+    const Ref<LFonts> fonts = New<LFonts>();
+    fonts->Add("one", "a");
+    fonts->Add("two", "b");
+    fonts->Add("three", "c");
     fonts->Remove(1);
-    EXPECT_EQ(fonts->Count(), 0);
+    EXPECT_EQ(fonts->Item("a"), nullptr);
+    EXPECT_EQ(fonts->Item("c")->Name, "three");
+    fonts->Remove("B");
+    EXPECT_EQ(fonts->Count(), 1);
+    EXPECT_EQ(fonts->Item(1)->Name, "three");
 }
 
-TEST(LFonts, AreWalkedInTheirOrder) {
+TEST(LFonts, AreWalkedInOrderAndCleared) {
     const Ref<LFonts> fonts = New<LFonts>();
-    for (int32_t i = 1; i <= 3; ++i) fonts->AddItem(FontOf(i));
-    std::vector<int32_t> heights;
-    for (const Ref<LFont>& font : *fonts) heights.push_back(font->Height);
-    EXPECT_EQ(heights, (std::vector<int32_t>{1, 2, 3}));
-}
-
-TEST(LFonts, ClearStartsAfresh) {
-    const Ref<LFonts> fonts = New<LFonts>();
-    fonts->AddItem(FontOf(1), "a");
+    for (const char* name : {"one", "two", "three"}) fonts->Add(name, name);
+    std::vector<String> names;
+    for (const Ref<LFont>& font : *fonts) names.push_back(font->Name);
+    EXPECT_THAT(names, ElementsAre("one", "two", "three"));
     fonts->Clear();
     EXPECT_EQ(fonts->Count(), 0);
-    EXPECT_EQ(fonts->Item("a"), nullptr);
-    EXPECT_FALSE(fonts->begin() != fonts->end());
+    EXPECT_EQ(fonts->Item("one"), nullptr);
 }
 
 }  // namespace

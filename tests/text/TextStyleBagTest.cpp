@@ -1,108 +1,90 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "TextTestSupport.h"
+#include "tests/support/Errors.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
 namespace {
 
-Ref<TextStyle> Unusual() {
-    const Ref<TextStyle> style = New<TextStyle>();
-    style->Create(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12);
-    style->DTFlags = 13;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+Ref<TextStyle> FilledStyle(int32_t drawStyle) {
+    Ref<TextStyle> style = New<TextStyle>();
+    style->Create(1, 2, 3, drawStyle, 50, 6, 70, 8, 9, 10, 11, 12);
     return style;
 }
 
-Ref<ole::PropertyBag> BagOf(const Ref<TextStyle>& style) {
-    const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
-    style->WriteProperties(bag);
+Ref<ole::PropertyBag> BagOf(const TextStyle& style) {
+    Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
+    style.WriteProperties(bag);
     return bag;
 }
 
-TEST(StyleBag, HoldsItsKeysInTheirOrder) {
-    EXPECT_EQ(BagOf(Unusual())->Names(),
-              (std::vector<String>{"TextColor", "TextContrast", "TextAlignHorz", "TextAlignVert",
-                                   "TextStyle", "FormatFlags", "ShadowColor", "ShadowThickness",
-                                   "ShadowX", "ShadowY", "ShadowOffsetX", "ShadowOffsetY"}));
+TEST(TextStyleBag, ANewStyleWritesNothing) {
+    EXPECT_THAT(BagOf(*New<TextStyle>())->Names(), IsEmpty());
 }
 
-TEST(StyleBag, LeavesDefaultsOut) {
-    EXPECT_TRUE(BagOf(New<TextStyle>())->Names().empty());
+TEST(TextStyleBag, EachFieldIsWrittenInItsOrder) {
+    const Ref<ole::PropertyBag> bag = BagOf(*FilledStyle(5));
+    EXPECT_THAT(bag->Names(),
+                ElementsAre("TextColor", "TextContrast", "TextAlignHorz", "TextAlignVert",
+                            "TextStyle", "FormatFlags", "ShadowColor", "ShadowThickness", "ShadowX",
+                            "ShadowY", "ShadowOffsetX", "ShadowOffsetY"));
+}
+
+TEST(TextStyleBag, TheShadowHasDefaultsOfItsOwn) {
     const Ref<TextStyle> style = New<TextStyle>();
     style->TextStyle = 1;
+    EXPECT_THAT(BagOf(*style)->Names(), ElementsAre("TextStyle", "ShadowX", "ShadowY"));
     style->ShadowX = style->ShadowY = 1;
-    EXPECT_EQ(BagOf(style)->Names(), (std::vector<String>{"TextStyle"}));
-    style->ShadowX = 0;
-    EXPECT_TRUE(BagOf(style)->Has("ShadowX")) << "1 is the default here";
+    EXPECT_THAT(BagOf(*style)->Names(), ElementsAre("TextStyle"));
 }
 
-TEST(StyleBag, WithoutADrawStyleHoldsNoShadow) {
-    for (const int32_t drawStyle : {0, -1}) {
-        const Ref<TextStyle> style = Unusual();
-        style->TextStyle = drawStyle;
-        EXPECT_FALSE(BagOf(style)->Has("ShadowColor"));
-        EXPECT_FALSE(BagOf(style)->Has("ShadowThickness"));
-        EXPECT_FALSE(BagOf(style)->Has("ShadowX"));
-        EXPECT_FALSE(BagOf(style)->Has("ShadowOffsetY"));
-        EXPECT_TRUE(BagOf(style)->Has("FormatFlags"));
+TEST(TextStyleBag, WithoutADrawStyleNoShadowIsWritten) {
+    for (const int32_t draw : {0, -1}) {
+        const auto names = BagOf(*FilledStyle(draw))->Names();
+        for (const String& name : names) EXPECT_NE(name.Left(6), "Shadow") << draw;
     }
 }
 
-TEST(StyleBag, WithoutADrawStyleReadsNoShadow) {
-    const Ref<ole::PropertyBag> bag = BagOf(Unusual());
+TEST(TextStyleBag, WithoutADrawStyleNoShadowIsRead) {
+    const Ref<ole::PropertyBag> bag = BagOf(*FilledStyle(5));
     bag->WriteProperty("TextStyle", 0);
     const Ref<TextStyle> style = New<TextStyle>();
-    style->ShadowX = 77;
     style->ReadProperties(bag);
-    EXPECT_EQ(style->TextColor, 1);
-    EXPECT_EQ(style->ShadowX, 77);
     EXPECT_EQ(style->ShadowColor, 0);
+    EXPECT_EQ(style->ShadowThickness, 4);
+    EXPECT_EQ(style->ShadowX, 0);
+    EXPECT_EQ(style->FormatFlags, 12);
 }
 
-struct BagRow {
-    const char* key;
-    int32_t TextStyle::*field;
-    int32_t fallback;
-};
-class StyleBagKey : public testing::TestWithParam<BagRow> {};
-INSTANTIATE_TEST_SUITE_P(, StyleBagKey,
-                         testing::Values(BagRow{"TextColor", &TextStyle::TextColor, 0},
-                                         BagRow{"TextContrast", &TextStyle::TextContrast, 4},
-                                         BagRow{"TextAlignHorz", &TextStyle::TextAlignHorz, 0},
-                                         BagRow{"TextAlignVert", &TextStyle::TextAlignVert, 0},
-                                         BagRow{"FormatFlags", &TextStyle::FormatFlags, 0},
-                                         BagRow{"ShadowColor", &TextStyle::ShadowColor, 0},
-                                         BagRow{"ShadowThickness", &TextStyle::ShadowThickness, 4},
-                                         BagRow{"ShadowX", &TextStyle::ShadowX, 1},
-                                         BagRow{"ShadowY", &TextStyle::ShadowY, 1},
-                                         BagRow{"ShadowOffsetX", &TextStyle::ShadowOffsetX, 0},
-                                         BagRow{"ShadowOffsetY", &TextStyle::ShadowOffsetY, 0}),
-                         [](const auto& info) { return std::string(info.param.key); });
-
-TEST_P(StyleBagKey, IsReadWithItsDefaultAndUnchecked) {
-    const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
-    bag->WriteProperty("TextStyle", 99);
-    const Ref<TextStyle> style = Unusual();
-    style->ReadProperties(bag);
-    EXPECT_EQ((*style).*GetParam().field, GetParam().fallback);
-    EXPECT_EQ(style->TextStyle, 99);
-    bag->WriteProperty(GetParam().key, -12345);
-    style->ReadProperties(bag);
-    EXPECT_EQ((*style).*GetParam().field, -12345);
-}
-
-TEST(StyleBag, GoesThereAndBackThroughItsBytes) {
-    const Ref<ole::PropertyBag> copy = New<ole::PropertyBag>();
-    copy->Contents(BagOf(Unusual())->Contents());
+TEST(TextStyleBag, ComesBackAsItWasWithoutAnyRange) {
     const Ref<TextStyle> style = New<TextStyle>();
-    style->ReadProperties(copy);
-    EXPECT_TRUE(style->Equal(Unusual()));
-    EXPECT_EQ(style->DTFlags, 0u) << "isn't kept";
+    style->ReadProperties(BagOf(*FilledStyle(99)));
+    EXPECT_TRUE(style->Equal(FilledStyle(99)));
+    EXPECT_EQ(style->TextContrast, 50);
 }
 
-TEST(StyleBag, OfNoneRaises) {
-    EXPECT_EQ(test::ErrorOf([] { New<TextStyle>()->ReadProperties(nullptr); }), 91);
-    EXPECT_EQ(test::ErrorOf([] { New<TextStyle>()->WriteProperties(nullptr); }), 91);
+TEST(TextStyleBag, AnEmptyBagGivesTheDefaultsAndLeavesTheShadow) {
+    const Ref<TextStyle> style = FilledStyle(5), expected = New<TextStyle>();
+    expected->Create(0, 0, 0, 0, 4, 6, 70, 8, 9, 10, 11, 0);
+    style->ReadProperties(New<ole::PropertyBag>());
+    EXPECT_TRUE(style->Equal(expected));
+}
+
+TEST(TextStyleBag, TheFlagsOfTheLastDrawingStayOutOfIt) {
+    const Ref<TextStyle> style = New<TextStyle>();
+    style->DTFlags = DT_CENTER;
+    EXPECT_THAT(BagOf(*style)->Names(), IsEmpty());
+    style->ReadProperties(New<ole::PropertyBag>());
+    EXPECT_EQ(style->DTFlags, uint32_t{DT_CENTER});
+}
+
+TEST(TextStyleBag, NoBagRaisesObjectNotSet) {
+    EXPECT_EQ(test::RaisedBy([] { New<TextStyle>()->ReadProperties(nullptr); }), 91);
+    EXPECT_EQ(test::RaisedBy([] { New<TextStyle>()->WriteProperties(nullptr); }), 91);
 }
 
 }  // namespace

@@ -2,25 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include "vxgui/text/TextStyles.h"
-
 namespace vxgui {
 namespace {
 
-/// A style with no field at its default.
-Ref<TextStyle> Unusual() {
-    const Ref<TextStyle> style = New<TextStyle>();
+Ref<TextStyle> FilledStyle() {
+    Ref<TextStyle> style = New<TextStyle>();
     style->Create(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12);
     return style;
 }
 
-TEST(TextStyle, ANewOneHasItsDefaults) {
+TEST(TextStyle, ANewOneHasTheDocumentedValues) {
     const Ref<TextStyle> style = New<TextStyle>();
     EXPECT_EQ(style->TextColor, 0);
     EXPECT_EQ(style->TextContrast, 4);
-    EXPECT_EQ(style->TextStyle, TextStyleNormal);
-    EXPECT_EQ(style->TextAlignHorz, TextAlignHorzLeft);
-    EXPECT_EQ(style->TextAlignVert, TextAlignVertTop);
+    EXPECT_EQ(style->TextStyle, 0);
+    EXPECT_EQ(style->TextAlignHorz, 0);
+    EXPECT_EQ(style->TextAlignVert, 0);
     EXPECT_EQ(style->FormatFlags, 0);
     EXPECT_EQ(style->DTFlags, 0u);
     EXPECT_EQ(style->ShadowColor, 0);
@@ -31,8 +28,8 @@ TEST(TextStyle, ANewOneHasItsDefaults) {
     EXPECT_EQ(style->ShadowOffsetY, 0);
 }
 
-TEST(TextStyle, CreateSetsEachField) {
-    const Ref<TextStyle> style = Unusual();
+TEST(TextStyle, CreateSetsEachFieldInItsOrder) {
+    const Ref<TextStyle> style = FilledStyle();
     EXPECT_EQ(style->TextColor, 1);
     EXPECT_EQ(style->TextAlignHorz, 2);
     EXPECT_EQ(style->TextAlignVert, 3);
@@ -48,120 +45,91 @@ TEST(TextStyle, CreateSetsEachField) {
 }
 
 TEST(TextStyle, CreateWithoutArgumentsKeepsNoDefault) {
-    const Ref<TextStyle> style = Unusual();
-    style->DTFlags = 77;
+    const Ref<TextStyle> style = FilledStyle(), expected = New<TextStyle>();
     style->Create();
-    EXPECT_EQ(style->TextContrast, 0) << "a new object has 4";
-    EXPECT_EQ(style->ShadowThickness, 0) << "a new object has 4";
-    EXPECT_EQ(style->TextColor, 0);
-    EXPECT_EQ(style->FormatFlags, 0);
-    EXPECT_EQ(style->DTFlags, 77u);
+    expected->TextContrast = 0;
+    expected->ShadowThickness = 0;
+    EXPECT_TRUE(style->Equal(expected));
 }
 
-TEST(TextStyle, EqualComparesEveryFieldButTheFlagsOfTheLastDrawing) {
-    const Ref<TextStyle> style = Unusual();
+TEST(TextStyleEqual, IsTrueForItselfAndFalseForNone) {
+    const Ref<TextStyle> style = FilledStyle();
     EXPECT_TRUE(style->Equal(style));
     EXPECT_FALSE(style->Equal(nullptr));
-    int32_t TextStyle::*const fields[] = {
-        &TextStyle::TextColor,       &TextStyle::TextContrast,  &TextStyle::TextStyle,
-        &TextStyle::TextAlignHorz,   &TextStyle::TextAlignVert, &TextStyle::ShadowColor,
-        &TextStyle::ShadowThickness, &TextStyle::ShadowX,       &TextStyle::ShadowY,
-        &TextStyle::ShadowOffsetX,   &TextStyle::ShadowOffsetY, &TextStyle::FormatFlags};
-    for (int32_t TextStyle::*const field : fields) {
-        const Ref<TextStyle> other = Unusual();
-        ++((*other).*field);
-        EXPECT_FALSE(style->Equal(other));
+}
+
+TEST(TextStyleEqual, DoesNotCompareTheFlagsOfTheLastDrawing) {
+    const Ref<TextStyle> a = FilledStyle(), b = FilledStyle();
+    a->DTFlags = DT_CENTER;
+    EXPECT_TRUE(a->Equal(b));
+}
+
+TEST(TextStyleEqual, ADifferenceInAnyOtherFieldCounts) {
+    using Style = class TextStyle;
+    int32_t Style::*const fields[] = {
+        &Style::TextColor,       &Style::TextContrast,  &Style::TextStyle,
+        &Style::TextAlignHorz,   &Style::TextAlignVert, &Style::ShadowColor,
+        &Style::ShadowThickness, &Style::ShadowX,       &Style::ShadowY,
+        &Style::ShadowOffsetX,   &Style::ShadowOffsetY, &Style::FormatFlags};
+    const Ref<TextStyle> style = FilledStyle();
+    for (size_t i = 0; i < std::size(fields); ++i) {
+        const Ref<TextStyle> other = FilledStyle();
+        ++((*other).*fields[i]);
+        EXPECT_FALSE(style->Equal(other)) << i;
     }
-    const Ref<TextStyle> other = Unusual();
-    other->DTFlags = 5;
-    EXPECT_TRUE(style->Equal(other));
 }
 
-TEST(TextStyle, ACloneHasWhatEqualCompares) {
-    const Ref<TextStyle> style = Unusual();
-    style->DTFlags = 5;
-    const Ref<TextStyle> clone = style->Clone();
-    EXPECT_TRUE(clone->Equal(style));
-    EXPECT_EQ(clone->DTFlags, 0u);
+TEST(TextStyleClone, CopiesAllButTheFlagsOfTheLastDrawing) {
+    const Ref<TextStyle> style = FilledStyle();
+    style->DTFlags = DT_CENTER;
+    const Ref<TextStyle> copy = style->Clone();
+    EXPECT_FALSE(copy == style);
+    EXPECT_TRUE(copy->Equal(style));
+    EXPECT_EQ(copy->DTFlags, 0u);
 }
 
-TEST(TextStyle, EnumerationsHaveThePublishedValues) {
-    EXPECT_EQ(TextStyleNormal, 0);
-    EXPECT_EQ(TextStyleShadowRight, 1);
-    EXPECT_EQ(TextStyleOutLine, 2);
-    EXPECT_EQ(TextAlignHorzLeft, 0);
-    EXPECT_EQ(TextAlignHorzCenter, 1);
-    EXPECT_EQ(TextAlignHorzRight, 2);
-    EXPECT_EQ(TextAlignHorzJustify, 3);
-    EXPECT_EQ(TextAlignHorzJustifyChar, 4);
-    EXPECT_EQ(TextAlignVertTop, 0);
-    EXPECT_EQ(TextAlignVertCenter, 1);
-    EXPECT_EQ(TextAlignVertBottom, 2);
-    EXPECT_EQ(TextAlignVertJustify, 3);
+TEST(TextStyleEnumerations, HaveThePublishedValues) {
+    const struct {
+        int32_t value, expected;
+    } cases[] = {
+        {TextStyleNormal, 0},      {TextStyleShadowRight, 1},     {TextStyleOutLine, 2},
+        {TextAlignHorzLeft, 0},    {TextAlignHorzCenter, 1},      {TextAlignHorzRight, 2},
+        {TextAlignHorzJustify, 3}, {TextAlignHorzJustifyChar, 4}, {TextAlignVertTop, 0},
+        {TextAlignVertCenter, 1},  {TextAlignVertBottom, 2},      {TextAlignVertJustify, 3},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.value, c.expected) << &c - cases;
 }
 
-TEST(TextStyle, FormatFlagsHaveThePublishedValues) {
-    EXPECT_EQ(DT_LEFT, 0u);
-    EXPECT_EQ(DT_TOP, 0u);
-    const uint32_t flags[] = {
-        DT_CENTER,       DT_RIGHT,        DT_VCENTER,    DT_BOTTOM,        DT_WORDBREAK,
-        DT_SINGLELINE,   DT_EXPANDTABS,   DT_TABSTOP,    DT_NOCLIP,        DT_EXTERNALLEADING,
-        DT_CALCRECT,     DT_NOPREFIX,     DT_INTERNAL,   DT_EDITCONTROL,   DT_PATH_ELLIPSIS,
-        DT_END_ELLIPSIS, DT_MODIFYSTRING, DT_RTLREADING, DT_WORD_ELLIPSIS, DT_NOFULLWIDTHCHARBREAK,
-        DT_HIDEPREFIX,   DT_PREFIXONLY};
-    uint32_t expected = 1;
-    for (const uint32_t flag : flags) {
-        EXPECT_EQ(flag, expected);
-        expected *= 2;
-    }
-    EXPECT_EQ(DT_PREFIXONLY, 2097152u);
-}
-
-TEST(TextStyles, AddMakesAStyleOfItsArguments) {
-    const Ref<TextStyles> styles = New<TextStyles>();
-    const Ref<TextStyle> style = styles->Add("key", 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11);
-    const Ref<TextStyle> expected = Unusual();
-    expected->FormatFlags = 0;
-    EXPECT_TRUE(style->Equal(expected));
-    EXPECT_EQ(styles->Item("key"), style);
-    EXPECT_EQ(styles->Add()->TextContrast, 0);
-    EXPECT_EQ(styles->Count(), 2);
-}
-
-TEST(TextStyles, AddItemReplacesUnderAKeyThatExists) {
-    const Ref<TextStyles> styles = New<TextStyles>();
-    styles->Add("a", 1);
-    styles->Add("b", 2);
-    const Ref<TextStyle> third = New<TextStyle>();
-    styles->AddItem(third, "a");
-    EXPECT_EQ(styles->Count(), 2);
-    EXPECT_EQ(styles->Item("a"), third);
-    EXPECT_EQ(styles->Item(2), third) << "the new one is last";
-}
-
-TEST(TextStyles, ForgiveWhatIsNotThere) {
-    const Ref<TextStyles> styles = New<TextStyles>();
-    styles->Add("a", 1);
-    EXPECT_EQ(styles->Item("b"), nullptr);
-    EXPECT_EQ(styles->Item(2), nullptr);
-    styles->Remove("b");
-    styles->Remove(2);
-    EXPECT_EQ(styles->Count(), 1);
-    styles->Remove(1);
-    EXPECT_EQ(styles->Count(), 0);
-}
-
-TEST(TextStyles, AreWalkedInTheirOrderAndCleared) {
-    const Ref<TextStyles> styles = New<TextStyles>();
-    styles->Add("", 1);
-    styles->Add("b", 2);
-    int32_t expected = 1;
-    for (const Ref<TextStyle>& style : *styles) EXPECT_EQ(style->TextColor, expected++);
-    EXPECT_EQ(expected, 3);
-    styles->Remove("b");
-    EXPECT_EQ(styles->Count(), 1);
-    styles->Clear();
-    EXPECT_EQ(styles->Count(), 0);
+TEST(DrawTextFlagsEnumeration, HasThePublishedValues) {
+    const struct {
+        uint32_t value, expected;
+    } cases[] = {
+        {DT_LEFT, 0},
+        {DT_TOP, 0},
+        {DT_CENTER, 1},
+        {DT_RIGHT, 2},
+        {DT_VCENTER, 4},
+        {DT_BOTTOM, 8},
+        {DT_WORDBREAK, 16},
+        {DT_SINGLELINE, 32},
+        {DT_EXPANDTABS, 64},
+        {DT_TABSTOP, 128},
+        {DT_NOCLIP, 256},
+        {DT_EXTERNALLEADING, 512},
+        {DT_CALCRECT, 1024},
+        {DT_NOPREFIX, 2048},
+        {DT_INTERNAL, 4096},
+        {DT_EDITCONTROL, 8192},
+        {DT_PATH_ELLIPSIS, 16384},
+        {DT_END_ELLIPSIS, 32768},
+        {DT_MODIFYSTRING, 65536},
+        {DT_RTLREADING, 131072},
+        {DT_WORD_ELLIPSIS, 262144},
+        {DT_NOFULLWIDTHCHARBREAK, 524288},
+        {DT_HIDEPREFIX, 1048576},
+        {DT_PREFIXONLY, 2097152},
+    };
+    for (const auto& c : cases) EXPECT_EQ(c.value, c.expected) << &c - cases;
 }
 
 }  // namespace
