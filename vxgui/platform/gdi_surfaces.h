@@ -26,6 +26,13 @@ VXPLATFORM_API HDC CreateHostDC(const HostPixels& pixels);
 /// A fresh memory context; null stands for the screen.
 VXPLATFORM_API HDC CreateCompatibleDC(HDC dc);
 VXPLATFORM_API BOOL DeleteDC(HDC dc);
+/// A context of the screen, for measuring; null stands for the whole screen. Give it back with
+/// `ReleaseDC`.
+VXPLATFORM_API HDC GetDC(HANDLE window);
+VXPLATFORM_API int ReleaseDC(HANDLE window, HDC dc);
+/// The layout flags of a context (1 is right to left), for those who ask; drawing is not mirrored.
+VXPLATFORM_API DWORD SetLayout(HDC dc, DWORD layout);
+VXPLATFORM_API DWORD GetLayout(HDC dc);
 /// Answers the level that `RestoreDC` takes, from 1; 0 on failure.
 VXPLATFORM_API int SaveDC(HDC dc);
 /// Brings back the state of a level, or, below 0, of as many levels ago; it and later ones end.

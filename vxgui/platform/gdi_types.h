@@ -105,6 +105,7 @@ struct LOGPEN {
 
 constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 constexpr UINT DIB_RGB_COLORS = 0;
+constexpr DWORD LAYOUT_RTL = 1;
 constexpr DWORD BI_RGB = 0, BI_BITFIELDS = 3;
 
 /// Ternary raster operations (any of the 256 codes works; these have names).

@@ -48,6 +48,8 @@ public:
     /// Ends the process at once. An exit status has eight bits: a code that doesn't fit ends as
     /// 255.
     virtual void ExitProcess(UINT code) = 0;
+    /// The family of the platform: 1 is the one without wide functions, 2 the one with them.
+    virtual DWORD GetPlatformId() { return 2; }
 };
 
 /// The kernel in force.

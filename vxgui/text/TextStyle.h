@@ -1,11 +1,15 @@
 #pragma once
 
+#include <span>
+
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
 #include "vxgui/base/String.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_text.h"
 #include "vxgui/platform/ole.h"
+#include "vxgui/surface/cAlphaDIBSection.h"
+#include "vxgui/text/LFont.h"
 
 namespace vxgui {
 
@@ -72,6 +76,35 @@ public:
     /// The shadow takes part only with a draw style above 0. Nothing is brought into range.
     void ReadProperties(const Ref<ole::PropertyBag>& propBag);
     void WriteProperties(const Ref<ole::PropertyBag>& propBag) const;
+
+    // Drawing and measuring. The alignment of the style replaces that of the flags. None for a
+    // font is replaced, in the caller's variable, by a new default one. A null context measures on
+    // the screen.
+    /// The width of the text in the ANSI code page, with `ShadowX`, in every draw style. The
+    /// argument `Width` has no effect.
+    int32_t TextWidth(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<class LFont>& Font,
+                      int32_t Width = 0) const;
+    /// The height of the text in lines of `Width`, with `ShadowY`. Draw styles 1 to 5 measure
+    /// nothing: their answer is `ShadowY` + 2147483647, wrapped, and is not to be used.
+    int32_t TextHeight(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<class LFont>& Font,
+                       int32_t Width) const;
+    /// Paints the text in the rectangle. Lines that are too long end in an ellipsis, unless the
+    /// flags ask for another kind.
+    void DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<class LFont>& LFont,
+                  int32_t x1, int32_t y1, int32_t x2, int32_t y2);
+
+private:
+    uint32_t AlignedFlags(uint32_t flags) const;
+    gdi::RECT AlignRectangle(gdi::HDC hDC, const String& text, gdi::RECT rect,
+                             uint32_t& flags) const;
+    void PaintByStyle(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
+                      COLORREF& oldColor);
+    void PaintTextOnce(gdi::HDC hDC, const String& text, const gdi::RECT& rect,
+                       uint32_t flags) const;
+    void PaintCopies(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
+                     std::span<const gdi::POINT> places) const;
+
+    Ref<class LFont> mFont;  ///< of the last drawing
 };
 
 }  // namespace vxgui

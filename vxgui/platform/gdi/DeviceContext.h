@@ -34,6 +34,7 @@ struct DcState {
     POINT position = {0, 0};
     int arcDirection = 1;  ///< 1 anticlockwise, 2 clockwise
     int polyFillMode = ALTERNATE;
+    DWORD layout = 0;
     /// The path bracket, open or ended; none when there is no path.
     std::shared_ptr<DcPath> path;
 };

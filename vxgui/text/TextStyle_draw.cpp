@@ -1,0 +1,144 @@
+#include "vxgui/base/Rounding.h"
+#include "vxgui/colour/modColours.h"
+#include "vxgui/platform/gdi.h"
+#include "vxgui/text/JustifiedText.h"
+#include "vxgui/text/ScratchText.h"
+#include "vxgui/text/ShadowText.h"
+#include "vxgui/text/TextStyle.h"
+#include "vxgui/text/WideText.h"
+
+namespace vxgui {
+namespace {
+
+constexpr int32_t kSpread = -1;
+constexpr uint32_t kEllipses = DT_PATH_ELLIPSIS | DT_END_ELLIPSIS | DT_WORD_ELLIPSIS;
+
+// The colour goes to the platform as a COLORREF.
+COLORREF ColorRefOf(int32_t oleColor) { return static_cast<COLORREF>(TranslateOleColor(oleColor)); }
+
+gdi::SIZE ExtentOf(gdi::HDC dc, const String& text) {
+    gdi::SIZE size{};
+    gdi::GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size);
+    return size;
+}
+
+// Justified text is painted from the top of its rectangle, so the rectangle is moved to the text.
+void AlignTop(gdi::RECT& rect, int32_t align, int32_t height) {
+    if (align == TextAlignVertCenter)
+        rect.top = WrapAdd(rect.top, WrapSub(WrapSub(rect.bottom, height), rect.top) / 2);
+    if (align == TextAlignVertBottom) rect.top = WrapSub(rect.bottom, height);
+}
+
+// What the context gets back its character extra by.
+struct CharacterSpread {
+    int32_t before = 0;
+    int32_t extra = 0;
+};
+
+CharacterSpread SpreadCharacters(gdi::HDC dc, const String& text, gdi::RECT& rect,
+                                 int32_t alignVert) {
+    CharacterSpread spread;
+    spread.before = gdi::SetTextCharacterExtra(dc, 0);
+    const gdi::SIZE size = ExtentOf(dc, text);
+    const auto gaps = static_cast<int32_t>(text.size()) - 1;
+    spread.extra = WrapSub(WrapSub(rect.right, size.cx), rect.left) / gaps;
+    gdi::SetTextCharacterExtra(dc, spread.extra);
+    AlignTop(rect, alignVert, size.cy);
+    return spread;
+}
+
+}  // namespace
+
+// The platform centres single lines alone; other text is measured and its rectangle moved.
+gdi::RECT TextStyle::AlignRectangle(gdi::HDC hDC, const String& text, gdi::RECT rect,
+                                    uint32_t& flags) const {
+    if (!(flags & DT_VCENTER) || (flags & DT_SINGLELINE)) return rect;
+    flags = (flags & ~uint32_t{DT_VCENTER}) | DT_WORDBREAK;
+    gdi::RECT measured = rect;
+    DrawTextWide(hDC, text, -1, measured, flags | DT_CALCRECT);
+    const int32_t spare =
+        WrapAdd(WrapSub(WrapSub(measured.top, measured.bottom), rect.top), rect.bottom);
+    return Offset(rect, 0, RoundHalfEven(spare / 2.0));
+}
+
+void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<class LFont>& LFont,
+                         int32_t x1, int32_t y1, int32_t x2, int32_t y2) {
+    const KeepAlive keep(this);
+    if (!LFont) LFont = New<class LFont>();
+    mFont = LFont;
+    gdi::RECT rect{x1, y1, x2, y2};
+    const int oldMode = gdi::SetBkMode(hDC, gdi::TRANSPARENT);
+    const gdi::HGDIOBJ oldFont = gdi::SelectObject(hDC, mFont->hFont());
+    COLORREF oldColor = gdi::SetTextColor(hDC, ColorRefOf(TextColor));
+    uint32_t flags = AlignedFlags(Flags & kEllipses ? Flags : Flags | DT_END_ELLIPSIS);
+    CharacterSpread spread;
+    if (TextAlignHorz == TextAlignHorzJustifyChar) {
+        if (Text.size() < 2) {
+            flags |= DT_CENTER;
+        } else {
+            spread = SpreadCharacters(hDC, Text, rect, TextAlignVert);
+        }
+    }
+    if (TextAlignHorz == TextAlignHorzJustify)
+        AlignTop(rect, TextAlignVert, ExtentOf(hDC, Text).cy);
+    rect = AlignRectangle(hDC, Text, rect, flags);
+    DTFlags = flags;
+    PaintByStyle(hDC, Text, rect, flags, oldColor);
+    if (spread.before != spread.extra) gdi::SetTextCharacterExtra(hDC, spread.before);
+    gdi::SelectObject(hDC, oldFont);
+    gdi::SetTextColor(hDC, oldColor);
+    gdi::SetBkMode(hDC, oldMode);
+}
+
+void TextStyle::PaintByStyle(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
+                             COLORREF& oldColor) {
+    const int32_t x = ShadowX, y = ShadowY, left = WrapSub(0, x), up = WrapSub(0, y);
+    const COLORREF textRgb = ColorRefOf(TextColor), shadowRgb = ColorRefOf(ShadowColor);
+    switch (TextStyle) {
+        case TextStyleShadowRight:
+        case TextStyleOutLine: {
+            const gdi::POINT ring[] = {{left, up}, {0, up},   {x, up}, {x, 0},
+                                       {left, 0},  {left, y}, {0, y},  {x, y}};
+            PaintCopies(hDC, text, rect, flags, ring);
+            break;
+        }
+        case 3: {
+            const gdi::POINT diagonal[] = {{left, up}, {x, y}};
+            PaintCopies(hDC, text, rect, flags, diagonal);
+            break;
+        }
+        case 4:
+            DrawShadowTextA(hDC, rect,
+                            {text, -1, flags, static_cast<int32_t>(textRgb),
+                             static_cast<int32_t>(shadowRgb), x, y, ShadowOffsetX, ShadowOffsetY});
+            break;
+        default:
+            // The style's colour is what is put back after a plain paint, on purpose: the context
+            // keeps it.
+            oldColor = gdi::SetTextColor(hDC, textRgb);
+            PaintTextOnce(hDC, text, rect, flags);
+    }
+}
+
+void TextStyle::PaintCopies(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
+                            std::span<const gdi::POINT> places) const {
+    gdi::SetTextColor(hDC, ColorRefOf(ShadowColor));
+    for (const gdi::POINT& place : places)
+        PaintTextOnce(hDC, text, Offset(rect, place.x, place.y), flags);
+    gdi::SetTextColor(hDC, ColorRefOf(TextColor));
+    PaintTextOnce(hDC, text, rect, flags);
+}
+
+void TextStyle::PaintTextOnce(gdi::HDC hDC, const String& text, const gdi::RECT& rect,
+                              uint32_t flags) const {
+    if (TextAlignHorz == TextAlignHorzJustify) {
+        DrawJustifiedText(hDC, text, -1, rect, kSpread);
+    } else if (TextAlignHorz == TextAlignHorzJustifyChar) {
+        ExtTextOutWide(hDC, rect.left, rect.top, gdi::ETO_CLIPPED, rect, text, -1);
+    } else {
+        gdi::RECT target = rect;
+        DrawTextWide(hDC, text, -1, target, flags);
+    }
+}
+
+}  // namespace vxgui
