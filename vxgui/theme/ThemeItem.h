@@ -5,6 +5,7 @@
 #include "vxgui/text/TextStyles.h"
 #include "vxgui/theme/FrameTable.h"
 #include "vxgui/theme/Margin.h"
+#include "vxgui/theme/NineSlice.h"
 #include "vxgui/theme/ThemeEnums.h"
 #include "vxgui/theme/ThemeOwner.h"
 
@@ -174,6 +175,34 @@ public:
     void DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t Frame,
                         int32_t GlyphFrame);
 
+    // Captions and icons.
+    /// The room that a caption needs, in the font of state `pState`, with the style's `ShadowX` and
+    /// `ShadowY`. A limit of 0 is none. The result is 0. A null context measures on the screen.
+    int32_t GetTextWidthHeight(gdi::HDC hDC, const String& Text, int32_t& pWidth, int32_t& pHeight,
+                               int32_t MaxWidth = 0, int32_t MaxHeight = 0, uint32_t Flags = 0,
+                               int32_t pState = 0) const;
+    /// `MaxWidth` has no effect on the width, nor `MaxHeight` on the height.
+    int32_t TextWidth(gdi::HDC hDC, const String& Text, uint32_t Flags = 0, int32_t MaxWidth = 0,
+                      int32_t MaxHeight = 0, int32_t pState = 0) const;
+    int32_t TextHeight(gdi::HDC hDC, const String& Text, uint32_t Flags = 0, int32_t MaxWidth = 0,
+                       int32_t MaxHeight = 0, int32_t pState = 0) const;
+    /// Paints a caption inside the content margins, in the font and style of the state; -1 is the
+    /// item's own. A right or bottom of -1 is that of the image. Both come back less the margin.
+    void DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, int32_t State, int32_t Left,
+                  int32_t Top, int32_t& Right, int32_t& Bottom) const;
+    void DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, int32_t State = -1,
+                  int32_t Left = 0, int32_t Top = 0) const;
+    /// Paints a picture object or a surface at its place inside the icon margins, `IconWidth` by
+    /// `IconWidth` pixels or at its own size. Right and bottom come back less the margin; they have
+    /// no default. -1 for an object of another kind, else 0.
+    int32_t DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t Flags, int32_t State,
+                     int32_t Left, int32_t Top, int32_t& Right, int32_t& Bottom) const;
+    int32_t DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t Flags, int32_t State = -1,
+                     int32_t Left = 0, int32_t Top = 0) const;
+    /// A new item with three small triangles in the colours of the states Normal, Focus and
+    /// Disabled, on opaque magenta.
+    Ref<ThemeItem> CreateMenuArrow() const;
+
     // For the library's own classes.
     VXGUI_LOCAL Ref<ThemeOwner> Owner() const { return owner_; }
     VXGUI_LOCAL void Owner(const Ref<ThemeOwner>& value) { owner_ = value; }
@@ -213,6 +242,7 @@ private:
     void PaintGlyph(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t frame);
     void PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t xS,
                          int32_t yS, int32_t wS, int32_t hS);
+    void PaintIconSurface(gdi::HDC hDC, cAlphaDIBSection& icon, Span x, Span y) const;
     void ReadImage(core7::DefineFile& file, const String& section, const String& basePath);
     void ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath);
 
