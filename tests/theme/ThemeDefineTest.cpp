@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "vxgui/theme/ThemeSet.h"
+#include "vxgui/theme/ThemeSetFile.h"
 
 namespace vxgui {
 namespace {
@@ -202,6 +202,29 @@ TEST_F(ThemeDefine, ReadingAgainReplacesTheStatesCollections) {
     item->FromThemeDefine(file, "Theme_01", set, folder);
     EXPECT_EQ(item->Fonts()->Count(), 0);
     EXPECT_EQ(item->FrameCount(), 5);
+}
+
+TEST_F(ThemeDefine, AFileIsLoadedWithThePicturesBesideIt) {
+    std::ofstream(folder + "/one.theme") << "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=strip.tga\n";
+    EXPECT_NE(LoadThemeSetFile(folder + "/one.theme")->Item("Theme_01")->Image(), nullptr);
+}
+
+TEST_F(ThemeDefine, AFileThatIsWrongIsNamedWithItsLine) {
+    const struct {
+        const char* text;
+        const char* place;
+    } cases[] = {{"[ThemeSet]\nThemes=1\n[Theme_01]\nContentMargin=1\n", "/bad.theme:3:1"},
+                 {"[ThemeSet]\nnonsense\n", "/bad.theme:2:1"}};
+    for (const auto& c : cases) {
+        std::ofstream(folder + "/bad.theme") << c.text;
+        try {
+            LoadThemeSetFile(folder + "/bad.theme");
+            FAIL() << c.text;
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Source().Utf8(), folder + c.place);
+        }
+    }
+    EXPECT_THROW(LoadThemeSetFile(folder + "/nowhere.theme"), Error);
 }
 
 }  // namespace
