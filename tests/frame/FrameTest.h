@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/frame/ActedKernel.h"
+#include "tests/support/ActedKernel.h"
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/DllLife.h"
 #include "vxgui/frame/Services.h"

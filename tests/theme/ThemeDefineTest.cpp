@@ -213,7 +213,7 @@ TEST_F(ThemeDefine, AFileThatIsWrongIsNamedWithItsLine) {
     const struct {
         const char* text;
         const char* place;
-    } cases[] = {{"[ThemeSet]\nThemes=1\n[Theme_01]\nContentMargin=1\n", "/bad.theme:3:1"},
+    } cases[] = {{"[ThemeSet]\nThemes=1\n[Theme_01]\nContentMargin=1\n", "/bad.theme:3:2"},
                  {"[ThemeSet]\nnonsense\n", "/bad.theme:2:1"}};
     for (const auto& c : cases) {
         std::ofstream(folder + "/bad.theme") << c.text;

@@ -1,4 +1,4 @@
-#include "tests/frame/ActedKernel.h"
+#include "tests/support/ActedKernel.h"
 
 namespace vxgui {
 
