@@ -5,6 +5,7 @@
 #include "tests/frame/FrameTest.h"
 #include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
 namespace {
@@ -138,6 +139,19 @@ TEST_F(GlobalObject, AnswersZeroWhateverHappens) {
         Global().UseSystemAlphaAlphaBlend(system);
         EXPECT_EQ(Global().AlphaBlend(nullptr, 0, 0, 2, 1, nullptr, 0, 0, 2, 1), 0);
         EXPECT_EQ(Global().TransparentBlt(nullptr, 0, 0, 2, 1, nullptr, 0, 0, 2, 1, 0), 0);
+    }
+}
+
+TEST_F(GlobalObject, SwitchHoldsForSurfacesThatWouldUseThePlatform) {
+    const Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
+    ASSERT_TRUE(surface->Create(2, 1));
+    surface->UseMsImag32(true);
+    for (const bool system : {false, true}) {
+        gPlatformCalls = 0;
+        Global().UseSystemAlphaAlphaBlend(system);
+        surface->AlphaPaintPicture(target_.dc, 0, 0);
+        surface->TransPaintPicture(target_.dc, 0, 0);
+        EXPECT_EQ(gPlatformCalls, system ? 2 : 0);
     }
 }
 
