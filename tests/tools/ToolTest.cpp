@@ -23,7 +23,7 @@ struct Result {
     std::string errors;
 };
 
-Result Run(std::vector<std::string> arguments) {
+Result Call(std::vector<std::string> arguments) {
     std::ostringstream out, errors;
     const int status = RunTool(std::move(arguments), out, errors);
     return {status, out.str(), errors.str()};
@@ -40,7 +40,7 @@ test::TestPicture Rendered(const std::string& item, std::vector<std::string> mor
     const std::string path = kFolder + item + ".png";
     std::vector<std::string> arguments{"render", kSkin, "--item", item, "-o", path};
     arguments.insert(arguments.end(), more.begin(), more.end());
-    const Result result = Run(arguments);
+    const Result result = Call(arguments);
     EXPECT_EQ(result.status, 0) << result.errors;
     test::TestPicture picture;
     EXPECT_TRUE(test::ReadPng(path, &picture));
@@ -48,13 +48,13 @@ test::TestPicture Rendered(const std::string& item, std::vector<std::string> mor
 }
 
 TEST(ToolHelp, ShowsTheCommandsAndExamples) {
-    const Result result = Run({"--help"});
+    const Result result = Call({"--help"});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.out, HasSubstr("gallery"));
     EXPECT_THAT(result.out, HasSubstr("render"));
     EXPECT_THAT(result.out, HasSubstr("Examples:"));
     for (const char* command : {"gallery", "render"}) {
-        const Result help = Run({command, "--help"});
+        const Result help = Call({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr("Example:"));
     }
@@ -75,28 +75,28 @@ TEST(ToolCommandLine, WrongOnesGiveStatusTwo) {
         {"render", kSkin, "--item", "Tab", "--frame", "two", "-o", kFolder + "x.png"},
     };
     for (const auto& arguments : wrong) {
-        const Result result = Run(arguments);
+        const Result result = Call(arguments);
         EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
         EXPECT_FALSE(result.errors.empty());
     }
 }
 
 TEST(ToolErrors, AMissingSkinIsNamed) {
-    const Result result = Run({"gallery", "/nowhere/x.theme", "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", "/nowhere/x.theme", "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.theme"));
 }
 
 TEST(ToolErrors, AFileWithoutSectionsIsNoSkin) {
     const std::string path = WriteSkin("plain.theme", "; nothing here\n");
-    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":1:1: error: no section [ThemeSet]"));
 }
 
 TEST(ToolErrors, ABinaryFileIsNoSkin) {
     const Result result =
-        Run({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/button.tga", "-o", kFolder + "x.png"});
+        Call({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/button.tga", "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("button.tga"));
 }
@@ -105,7 +105,7 @@ TEST(ToolErrors, EachMissingImageIsNamedWithItsLine) {
     const std::string path = WriteSkin("missing.theme",
                                        "[ThemeSet]\nThemes=2\n[Theme_01]\nFrames=1\nImage=a.png\n["
                                        "Theme_02]\n  GlyphImage=b.bmp\n");
-    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":5:1: error: image \"a.png\" is not there"));
     EXPECT_THAT(result.errors, HasSubstr(path + ":7:3: error: image \"b.bmp\" is not there"));
@@ -115,7 +115,7 @@ TEST(ToolErrors, ABrokenImageIsToldFromAMissingOne) {
     WriteSkin("broken.png", "\x89PNG\r\n\x1a\nnonsense");
     const std::string path =
         WriteSkin("broken.theme", "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=broken.png\n");
-    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":4:1: error: image \"broken.png\" is no picture"));
 }
@@ -123,14 +123,14 @@ TEST(ToolErrors, ABrokenImageIsToldFromAMissingOne) {
 TEST(ToolErrors, AListThatIsTooShortIsNamedWithItsSection) {
     const std::string path =
         WriteSkin("short.theme", "[ThemeSet]\nThemes=1\n\n[Theme_01]\nContentMargin=1,2\n");
-    const Result result = Run({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":4:"));
     EXPECT_THAT(result.errors, HasSubstr("1,2"));
 }
 
 TEST(ToolErrors, AnUnknownItemListsTheNames) {
-    const Result result = Run({"render", kSkin, "--item", "Nothing", "-o", kFolder + "x.png"});
+    const Result result = Call({"render", kSkin, "--item", "Nothing", "-o", kFolder + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("PushButton"));
 }
@@ -138,14 +138,14 @@ TEST(ToolErrors, AnUnknownItemListsTheNames) {
 TEST(ToolErrors, SizesThatCantBeAreRefused) {
     for (const char* size : {"100000x100000", "32768x1", "32767x32767"}) {
         const Result result =
-            Run({"render", kSkin, "--item", "Tab", "--size", size, "-o", kFolder + "x.png"});
+            Call({"render", kSkin, "--item", "Tab", "--size", size, "-o", kFolder + "x.png"});
         EXPECT_EQ(result.status, 1) << size;
         EXPECT_THAT(result.errors, HasSubstr("can't be made"));
     }
 }
 
 TEST(ToolErrors, AnOutputThatCantBeWrittenIsNamed) {
-    const Result result = Run({"render", kSkin, "--item", "Tab", "-o", "/nowhere/x.png"});
+    const Result result = Call({"render", kSkin, "--item", "Tab", "-o", "/nowhere/x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.png"));
 }
@@ -173,7 +173,7 @@ TEST(ToolRender, TakesSectionsNamesAndFrames) {
 TEST(ToolGallery, ThePictureOfTheSampleSkinIsAsItWas) {
     const std::string path = kFolder + "gallery.png";
     std::filesystem::create_directories(kFolder);
-    const Result result = Run({"gallery", kSkin, "-o", path});
+    const Result result = Call({"gallery", kSkin, "-o", path});
     ASSERT_EQ(result.status, 0) << result.errors;
     test::TestPicture picture;
     ASSERT_TRUE(test::ReadPng(path, &picture));

@@ -17,6 +17,7 @@ struct Options {
 
 constexpr uint32_t kPaper = 0xFFF4F6F8;
 constexpr uint32_t kCard = 0xFFFFFFFF;
+constexpr int32_t kInk = 0x4A3426;  // a COLORREF
 
 void FillBox(Sheet& sheet, const gdi::RECT& box, uint32_t pixel) {
     for (int32_t y = box.top; y < box.bottom; ++y) {
@@ -24,11 +25,28 @@ void FillBox(Sheet& sheet, const gdi::RECT& box, uint32_t pixel) {
     }
 }
 
-void PaintCell(Sheet& sheet, ThemeItem& item, const GalleryCell& cell) {
-    const gdi::RECT& box = cell.ground;
-    sheet.FillChecks(box.left, box.top, box.right - box.left, box.bottom - box.top);
-    item.State(cell.state);
-    item.DrawBackground(sheet.dc(), cell.x, cell.y, cell.size.cx, cell.size.cy, -1, -1);
+void PaintTitle(Sheet& sheet, const GalleryCard& card) {
+    const Ref<TextStyle> style = New<TextStyle>();
+    style->TextColor = kInk;
+    style->TextAlignVert = TextAlignVertCenter;
+    Ref<LFont> font = New<LFont>();
+    font->Create("DejaVu Sans", -13, 0, 0, 0, 700);
+    style->DrawText(sheet.dc(), card.name, DT_SINGLELINE | DT_NOPREFIX, font, card.title.left,
+                    card.title.top, card.title.right, card.title.bottom);
+}
+
+void PaintCell(Sheet& sheet, const GalleryCard& card, const GalleryCell& cell) {
+    const gdi::RECT& ground = cell.ground;
+    sheet.FillChecks(ground.left, ground.top, ground.right - ground.left,
+                     ground.bottom - ground.top);
+    const gdi::RECT& box = cell.item;
+    card.item->State(cell.state);
+    card.item->DrawBackground(sheet.dc(), box.left, box.top, box.right - box.left,
+                              box.bottom - box.top, -1, -1);
+    if (!cell.captioned) return;
+    int32_t right = box.right, bottom = box.bottom;
+    card.item->DrawText(sheet.dc(), card.caption, DT_SINGLELINE, -1, box.left, box.top, right,
+                        bottom);
 }
 
 void PaintGallery(const Options& options, std::ostream& out) {
@@ -38,7 +56,8 @@ void PaintGallery(const Options& options, std::ostream& out) {
     sheet.Fill(kPaper);
     for (const GalleryCard& card : page.cards) {
         FillBox(sheet, card.box, kCard);
-        for (const GalleryCell& cell : card.cells) PaintCell(sheet, *card.item, cell);
+        PaintTitle(sheet, card);
+        for (const GalleryCell& cell : card.cells) PaintCell(sheet, card, cell);
     }
     sheet.MakeOpaque();
     sheet.WritePng(options.output);

@@ -8,76 +8,109 @@
 namespace vxgui::tool {
 namespace {
 
-constexpr int32_t kPageWidth = 1240;
+constexpr int32_t kPageWidth = 1300;
 constexpr int32_t kPageMargin = 16;
 constexpr int32_t kCardMargin = 14;
 constexpr int32_t kTitleHeight = 24;
+constexpr int32_t kTitleWidth = 200;
 constexpr int32_t kCellMargin = 6;
 constexpr int32_t kGap = 8;
+constexpr int32_t kCaptionWidth = 112;
 
 // The item's own size, a wider one, and one that is larger both ways.
-std::array<gdi::SIZE, 3> SizesOf(ThemeItem& item) {
+std::array<gdi::SIZE, 3> SizesOf(ThemeItem& item, bool captioned) {
     const gdi::SIZE own = OwnSize(item);
-    const int32_t wider = own.cx + std::clamp(own.cx / 2, 24, 72);
+    const int32_t wider =
+        std::max(own.cx + std::clamp(own.cx / 2, 24, 72), captioned ? kCaptionWidth : 0);
     return {own, {wider, own.cy}, {wider, own.cy + std::clamp(own.cy / 2, 16, 48)}};
 }
 
-/// Places cells from left to right and begins a new row where the next one doesn't fit.
+// Whether an item has anything to show in a state.
+bool Shows(ThemeItem& item, int32_t state) {
+    const bool image = item.Image() && item.StateFrame(state) < item.FrameCount();
+    return image || (item.Glyph() && item.GlyphStateFrame(state) < item.GlyphFrames());
+}
+
+gdi::RECT Moved(const gdi::RECT& rect, int32_t x, int32_t y) {
+    return {rect.left + x, rect.top + y, rect.right + x, rect.bottom + y};
+}
+
+/// Places boxes from left to right and begins a new row where the next one doesn't fit.
 class Flow {
 public:
-    Flow(int32_t left, int32_t top, int32_t right)
-        : left_(left), right_(right), x_(left), y_(top) {}
+    Flow(int32_t left, int32_t top, int32_t right, int32_t gap)
+        : left_(left), right_(right), gap_(gap), x_(left), y_(top) {}
 
     void NewRow() {
         if (x_ == left_) return;
         x_ = left_;
-        y_ += rowHeight_ + kGap;
+        y_ += rowHeight_ + gap_;
         rowHeight_ = 0;
     }
-    GalleryCell Place(int32_t state, gdi::SIZE size) {
-        const int32_t width = size.cx + 2 * kCellMargin, height = size.cy + 2 * kCellMargin;
+    gdi::RECT Place(int32_t width, int32_t height) {
         if (x_ + width > right_) NewRow();
-        const gdi::RECT ground{x_, y_, x_ + width, y_ + height};
-        x_ += width + kGap;
+        const gdi::RECT box{x_, y_, x_ + width, y_ + height};
+        x_ += width + gap_;
         rowHeight_ = std::max(rowHeight_, height);
-        reach_ = std::max(reach_, ground.right);
-        return {state, ground.left + kCellMargin, ground.top + kCellMargin, size, ground};
+        reach_ = std::max(reach_, box.right);
+        return box;
     }
     int32_t Bottom() const { return y_ + rowHeight_; }
     int32_t Reach() const { return reach_; }
 
 private:
-    int32_t left_, right_, x_, y_;
+    int32_t left_, right_, gap_, x_, y_;
     int32_t rowHeight_ = 0;
     int32_t reach_ = 0;
 };
 
-GalleryCard LayOutCard(const Ref<ThemeItem>& item, const String& name, int32_t top) {
-    GalleryCard card{item, name, {kPageMargin, top, kPageWidth - kPageMargin, top}, {}};
-    Flow flow(card.box.left + kCardMargin, top + kCardMargin + kTitleHeight,
-              card.box.right - kCardMargin);
-    for (const gdi::SIZE& size : SizesOf(*item)) {
+// The card as it stands by itself, its top left corner at the origin.
+GalleryCard LayOutCard(const Ref<ThemeItem>& item, const String& name, const String& caption) {
+    GalleryCard card{item, name, caption, {}, {}, {}};
+    Flow flow(kCardMargin, kCardMargin + kTitleHeight, kPageWidth - 2 * kPageMargin - kCardMargin,
+              kGap);
+    const auto sizes = SizesOf(*item, !caption.empty());
+    for (size_t i = 0; i < sizes.size(); ++i) {
         flow.NewRow();
-        for (int32_t state = 0; state < E_ItemStateMax; ++state)
-            card.cells.push_back(flow.Place(state, size));
+        for (int32_t state = 0; state < E_ItemStateMax; ++state) {
+            const gdi::RECT ground =
+                flow.Place(sizes[i].cx + 2 * kCellMargin, sizes[i].cy + 2 * kCellMargin);
+            const gdi::RECT inner{ground.left + kCellMargin, ground.top + kCellMargin,
+                                  ground.right - kCellMargin, ground.bottom - kCellMargin};
+            card.cells.push_back(
+                {state, ground, inner, i > 0 && !caption.empty() && Shows(*item, state)});
+        }
     }
-    card.box.right = std::max(card.box.right, flow.Reach() + kCardMargin);
-    card.box.bottom = flow.Bottom() + kCardMargin;
+    const int32_t right = std::max(flow.Reach(), kCardMargin + kTitleWidth);
+    card.title = {kCardMargin, kCardMargin / 2, right, kCardMargin / 2 + kTitleHeight};
+    card.box = {0, 0, right + kCardMargin, flow.Bottom() + kCardMargin};
     return card;
+}
+
+void MoveCard(GalleryCard& card, int32_t x, int32_t y) {
+    card.box = Moved(card.box, x, y);
+    card.title = Moved(card.title, x, y);
+    for (GalleryCell& cell : card.cells) {
+        cell.ground = Moved(cell.ground, x, y);
+        cell.item = Moved(cell.item, x, y);
+    }
 }
 
 }  // namespace
 
 GalleryPage LayOutGallery(const Skin& skin) {
     GalleryPage page;
-    int32_t y = kPageMargin;
+    Flow shelves(kPageMargin, kPageMargin, kPageWidth - kPageMargin, kPageMargin);
     for (int32_t n = 1; n <= skin.set->ThemeItems()->Count(); ++n) {
         const String section = NumberedSection("Theme_", n);
-        page.cards.push_back(LayOutCard(skin.set->Item(section), skin.NameOf(section), y));
-        page.width = std::max(page.width, page.cards.back().box.right + kPageMargin);
-        y = page.cards.back().box.bottom + kPageMargin;
+        const String caption = skin.file->GetString(section, "Caption", "");
+        GalleryCard card = LayOutCard(skin.set->Item(section), skin.NameOf(section), caption);
+        const gdi::RECT place = shelves.Place(card.box.right, card.box.bottom);
+        MoveCard(card, place.left, place.top);
+        page.cards.push_back(std::move(card));
     }
-    page.height = y;
+    page.width = std::max(shelves.Reach(), kTitleWidth) + kPageMargin;
+    page.height = shelves.Bottom() + kPageMargin;
     return page;
 }
 

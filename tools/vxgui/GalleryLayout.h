@@ -10,16 +10,18 @@ namespace vxgui::tool {
 /// One item in one state at one size, on its piece of checkered ground.
 struct GalleryCell {
     int32_t state;
-    int32_t x, y;
-    gdi::SIZE size;
     gdi::RECT ground;
+    gdi::RECT item;
+    bool captioned;
 };
 
-/// All cells of one item.
+/// All cells of one item, under its name.
 struct GalleryCard {
     Ref<ThemeItem> item;
     String name;
+    String caption;
     gdi::RECT box;
+    gdi::RECT title;
     std::vector<GalleryCell> cells;
 };
 
@@ -30,7 +32,7 @@ struct GalleryPage {
 };
 
 /// Where everything of a gallery goes: a card for each item, and on it the nine states at the
-/// item's own size and at two larger ones, wrapped to the width of the page.
+/// item's own size and at two larger ones, with the item's caption on those.
 GalleryPage LayOutGallery(const Skin& skin);
 
 }  // namespace vxgui::tool
