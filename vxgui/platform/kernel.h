@@ -4,6 +4,7 @@
 
 #include "vxgui/base/Export.h"
 #include "vxgui/base/String.h"
+#include "vxgui/base/Variant.h"
 #include "vxgui/platform/types.h"
 
 /// Loading modules by name, finding their exports, the message box, the process's exit, the last
@@ -78,13 +79,26 @@ struct Export {
 VXPLATFORM_API void RegisterBuiltInModule(const char* name, const Export* exports);
 
 /// The bytes of a resource of a module file, by type and name without regard to case; empty
-/// when there is none. The block belongs to the module.
+/// when there is none. A number is written as "#" and its digits. The block belongs to the module.
 struct ResourceBlock {
     const uint8_t* data = nullptr;
     size_t size = 0;
 };
 VXPLATFORM_API ResourceBlock FindModuleResource(HMODULE module, const String& type,
                                                 const String& name);
+
+struct ModuleResource {
+    String type;
+    String name;
+    ResourceBlock block;
+};
+/// The resources of a module file, in the order of its directories and once for all languages.
+VXPLATFORM_API std::vector<ModuleResource> ModuleResources(HMODULE module);
+/// The file of a module that holds resources and no code, for 32-bit processes or for 64-bit
+/// ones. Types and names are stored in capitals, as loaders look for them. Raises error 5 for
+/// what is no name and for more than 1 GiB, error 457 for a name that stands twice.
+VXPLATFORM_API ByteArray WriteResourceModule(const std::vector<ModuleResource>& resources,
+                                             bool wide = false);
 
 /// The last error of the calling thread.
 VXPLATFORM_API DWORD GetLastError();
