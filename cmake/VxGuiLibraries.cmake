@@ -36,7 +36,9 @@ function(vxgui_add_library name sources)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   # Names like BitBlt exist elsewhere too: our calls stay ours, and nobody else gets them.
   target_link_options(${name} PRIVATE -Wl,-Bsymbolic)
-  if(NOT VXGUI_SANITIZE)
+  if(VXGUI_SANITIZE)  # the tests alone are run under sanitizers, and they link the static form
+    set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+  else()
     target_link_options(${name} PRIVATE -Wl,--no-undefined)
   endif()
   add_library(VxGui::${name} ALIAS ${name})

@@ -90,6 +90,7 @@ struct DropsLate {
 };
 
 TEST(PixelBlocks, ABitmapMayBeDroppedWhenItsThreadHasEnded) {
+    GetStockObject(WHITE_BRUSH);  // the stock objects are entered with the first that is asked for
     const size_t before = HandleTable::LiveCount();
     std::thread([] {
         // Made before the thread's store, so that it goes after it.
