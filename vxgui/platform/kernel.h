@@ -51,6 +51,8 @@ public:
     virtual void ExitProcess(UINT code) = 0;
     /// The family of the platform: 1 is the one without wide functions, 2 the one with them.
     virtual DWORD GetPlatformId() { return 2; }
+    /// The full path of the running program.
+    virtual String GetProgramFileName();
 };
 
 /// The kernel in force.

@@ -14,8 +14,10 @@ public:
         if (!file_) throw Error(ErrorNumber::ObjectNotSet, source, "Object not set");
     }
 
-    String Text(const char* key) const { return file_->GetString(name_, key, ""); }
-    int32_t Integer(const char* key, const char* fallback = "0") const {
+    String Text(const char* key, const String& fallback = {}) const {
+        return file_->GetString(name_, key, fallback);
+    }
+    int32_t Integer(const char* key, const String& fallback = "0") const {
         return file_->GetInteger(name_, key, fallback);
     }
     double Number(const char* key) const { return file_->GetNumber(name_, key, "0"); }

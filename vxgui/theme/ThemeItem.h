@@ -1,5 +1,7 @@
 #pragma once
 
+#include <variant>
+
 #include "vxgui/surface/cAlphaDIBSection.h"
 #include "vxgui/text/LFonts.h"
 #include "vxgui/text/TextStyles.h"
@@ -11,7 +13,12 @@
 
 namespace vxgui {
 
+class DefineSection;
 class ThemeSet;
+
+/// Where the pictures of a skin lie: in a folder, or in a style module's resources of the type
+/// "Image".
+using UisSource = std::variant<String, kernel::HMODULE>;
 
 /// One skin element: all that is needed to paint one kind of control in any of its states. It
 /// holds a background image cut into frames, a smaller glyph with frames of its own, margins that
@@ -203,6 +210,13 @@ public:
     /// Disabled, on opaque magenta.
     Ref<ThemeItem> CreateMenuArrow() const;
 
+    // Import.
+    /// Reads the section `ItemName` of a UIS skin definition. Image and glyph are emptied first;
+    /// a picture that isn't there leaves the item without one. A failure is shown to the user and
+    /// answers false, with the item as far as it got.
+    bool FromUis(const Ref<core7::DefineFile>& Uis, const UisSource& hDll_Path,
+                 const String& ItemName, const String& DefaultImageFilename);
+
     // For the library's own classes.
     VXGUI_LOCAL Ref<ThemeOwner> Owner() const { return owner_; }
     VXGUI_LOCAL void Owner(const Ref<ThemeOwner>& value) { owner_ = value; }
@@ -217,6 +231,16 @@ public:
         int32_t GroupFont = 0;
     };
     VXGUI_LOCAL OwnerNumbers& Numbers() { return numbers_; }
+    /// What skin definitions carry and nothing here reads: it is kept as it came.
+    struct UisNumbers {
+        int32_t TextHorzAlignNormal = 0, TextVertAlignNormal = 0;
+        int32_t SmartSmallMargins = 0;
+        int32_t PartWidth = 0, PartHeight = 0;
+        int32_t AnimTimerRate = 0, LoopBackDelay = 0;
+        int32_t MouseEnterStartFrame = 0, MouseOverStartFrame = 0;
+        int32_t MouseOverStopFrame = 0, MouseLeaveStopFrame = 0, MouseLeaveMode = 0;
+    };
+    VXGUI_LOCAL UisNumbers& ImportedNumbers() { return imported_; }
     /// Reads a section of a theme-set define file. Pictures lie in `BasePath`; fonts and styles
     /// are those of `Set`. A list with fewer parts than it must have raises.
     VXGUI_LOCAL void FromThemeDefine(const Ref<core7::DefineFile>& DefineFile,
@@ -245,6 +269,12 @@ private:
     void PaintIconSurface(gdi::HDC hDC, cAlphaDIBSection& icon, Span x, Span y) const;
     void ReadImage(core7::DefineFile& file, const String& section, const String& basePath);
     void ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath);
+    void ReadUisImage(const DefineSection& read, const UisSource& source, const String& fallback);
+    void ReadUisGlyph(const DefineSection& read, const UisSource& source);
+    void ReadUisSlices(const DefineSection& read);
+    void ReadUisColours(const DefineSection& read);
+    void ReadUisFonts(const DefineSection& read);
+    void ReadUisAnimation(const DefineSection& read);
 
     int32_t state_ = 0;
     FrameTable frames_;
@@ -269,6 +299,7 @@ private:
     uint32_t imageFlags_ = 0;
     uint8_t imageAlpha_ = 255;
     OwnerNumbers numbers_;
+    UisNumbers imported_;
     int32_t frameCount_ = 0;
     int32_t currentFrame_ = 0;
     int32_t currentGlyphFrame_ = 0;

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+#include "vxgui/platform/kernel.h"
+
 namespace vxgui::kernel {
 
 std::string OwnPath() {
@@ -25,5 +27,7 @@ std::string ProgramPath() {
 }
 
 std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+
+String Kernel::GetProgramFileName() { return ProgramPath(); }
 
 }  // namespace vxgui::kernel
