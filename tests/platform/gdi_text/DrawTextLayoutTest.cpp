@@ -264,8 +264,9 @@ TEST(DrawTextLayout, TabStopHidesTheFlagsBeneathItsLength) {
 
 TEST(DrawTextLayout, ExternalLeadingIsAddedToEveryLine) {
     Canvas canvas(100, 200);
-    canvas.Font("WenQuanYi Micro Hei", -40);
+    canvas.Font("Noto Sans Tai Tham", -200);
     const TEXTMETRICA metrics = Metrics(canvas);
+    ASSERT_EQ(metrics.tmExternalLeading, 7) << "35 units of 1000";
     int result = 0;
     Measured(canvas, u"a\nb", 100, DT_EXTERNALLEADING, &result);
     EXPECT_EQ(result, 2 * (metrics.tmHeight + metrics.tmExternalLeading));
