@@ -18,6 +18,9 @@
 
 namespace vxgui {
 
+namespace gdiplus {
+class GpBitmap;
+}
 class IColorAdjust;
 
 enum AlphaDIBSectionConst : int32_t {
@@ -80,6 +83,10 @@ public:
     /// For device bitmaps: a DIB section is refused.
     virtual bool FromHBITMAP(gdi::HBITMAP hBMP, int32_t X = 0, int32_t Y = 0, int32_t w = -1,
                              int32_t h = -1);
+    /// Of a GDI+ bitmap's handle. The rows run from the top there and from the bottom here, so that
+    /// the picture stands on its head, and the pixels are straight.
+    virtual bool FromHGpBitmap(gdiplus::GpBitmap* hGpBitmap, int32_t X = 0, int32_t Y = 0,
+                               int32_t w = -1, int32_t h = -1);
     /// The copy starts at the bottom row of `Src`; `Y` is checked and otherwise not used.
     virtual bool FromAlphaDIBSection(const Ref<cAlphaDIBSection>& Src, int32_t X, int32_t Y,
                                      int32_t Width, const int32_t& Height);

@@ -1,7 +1,7 @@
 #include "vxgui/surface/cAlphaDIBSectionClip.h"
 
 #include "vxgui/base/Error.h"
-#include "vxgui/base/Rounding.h"
+#include "vxgui/surface/Stretch.h"
 
 namespace vxgui {
 
@@ -9,9 +9,8 @@ namespace {
 
 int32_t OrCell(int32_t length, int32_t cell) { return length < 1 ? cell : length; }
 
-/// Whether a stretch lies within `whole`; the sum wraps.
 bool IsInside(int32_t start, int32_t length, int32_t whole) {
-    return start >= 0 && WrapAdd(start, length) <= whole;
+    return start >= 0 && !Passes(start, length, whole);
 }
 
 Ref<ole::Picture> PictureOf(const Ref<cAlphaDIBSection>& surface) {

@@ -2,25 +2,13 @@
 #include <cstring>
 
 #include "vxgui/base/Error.h"
-#include "vxgui/base/Rounding.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/surface/ScratchContext.h"
+#include "vxgui/surface/Stretch.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
-
-namespace {
-
-/// Whether `start + length` passes `limit`; the sum wraps.
-bool Passes(int32_t start, int32_t length, int32_t limit) { return WrapAdd(start, length) > limit; }
-
-/// A negative length, or one that passes the end, reaches to the end.
-int32_t CutLength(int32_t start, int32_t length, int32_t limit) {
-    return length < 0 || Passes(start, length, limit) ? limit - start : length;
-}
-
-}  // namespace
 
 void cAlphaDIBSection::LoadPictureBlt(gdi::HDC lHDC, int32_t lSrcLeft, int32_t lSrcTop,
                                       int32_t lSrcWidth, int32_t lSrcHeight, uint32_t eRop) {
