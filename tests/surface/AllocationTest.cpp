@@ -1,0 +1,53 @@
+#include <cstdlib>
+#include <new>
+
+#include "tests/surface/SurfaceSupport.h"
+
+namespace {
+
+std::atomic<int> gAllocations{0};
+
+void* CountedAllocation(size_t size) {
+    ++gAllocations;
+    if (void* block = std::malloc(size ? size : 1)) return block;
+    throw std::bad_alloc();
+}
+
+}  // namespace
+
+// The whole program's, so that allocations anywhere below a paint operation are seen.
+void* operator new(size_t size) { return CountedAllocation(size); }
+void* operator new[](size_t size) { return CountedAllocation(size); }
+void operator delete(void* block) noexcept { std::free(block); }
+void operator delete[](void* block) noexcept { std::free(block); }
+void operator delete(void* block, size_t) noexcept { std::free(block); }
+void operator delete[](void* block, size_t) noexcept { std::free(block); }
+
+namespace vxgui::test {
+namespace {
+
+void PaintAll(const Ref<cAlphaDIBSection>& surface, gdi::HDC dc) {
+    surface->PaintPicture(dc);
+    surface->PaintPicture(dc, 0, 0, 20, 30);
+    surface->TransPaintPicture(dc);
+    surface->TransPaintPicture(dc, 0, 0, 20, 30);
+    surface->AlphaPaintPicture(dc);
+    surface->AlphaPaintPicture(dc, 0, 0, 20, 30, 1, 1, 5, 5, 90, false);
+    surface->PaintByMode(dc, 0, 0, 9, 9, 0, 0, 9, 9, 0x2FF);
+}
+
+TEST(SurfacePaint, ARepaintTakesNoNewMemory) {
+    std::mt19937 random(1);
+    const auto surface = MakeRandomSurface(40, 30, random);
+    GuardedTarget target(64, 64);
+    for (const bool system : {false, true}) {
+        const SystemBlend blend(system);
+        for (int warm = 0; warm < 2; ++warm) PaintAll(surface, target.dc());
+        const int before = gAllocations;
+        PaintAll(surface, target.dc());
+        EXPECT_EQ(gAllocations - before, 0) << (system ? "platform" : "compositor");
+    }
+}
+
+}  // namespace
+}  // namespace vxgui::test
