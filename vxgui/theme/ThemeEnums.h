@@ -55,4 +55,22 @@ enum E_FRAMEORDER : int32_t {
     Normal_MouseOver_Pressed_Disabled_DefaultFocus = 1,
 };
 
+/// What `CopyTo` copies.
+enum E_COPYTOFLAGS : uint32_t {
+    COPYTO_Image = 0x80000000,
+    COPYTO_ImageProp = 0x40000000,
+    COPYTO_ImageMargin = 0x20000000,
+    COPYTO_ContentMargin = 0x10000000,
+    COPYTO_Glyph = 0x08000000,
+    COPYTO_GlyphProp = 0x04000000,
+    COPYTO_FontsMask = 0x03000000,
+    COPYTO_FontsSet = 0x02000000,  ///< by reference: both items share one collection
+    COPYTO_FontsLet = 0x01000000,  ///< by value: leaves the target's collection empty
+    COPYTO_TextStylesMask = 0x00C00000,
+    COPYTO_TextStylesSet = 0x00800000,
+    COPYTO_TextStylesLet = 0x00400000,
+    COPYTO_NoImage = 0x7E800000,
+    COPYTO_NoGlyph = 0xF6800000,
+};
+
 }  // namespace vxgui
