@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/Errors.h"
 #include "tests/theme/RecordingSurface.h"
 #include "vxgui/theme/ThemeItem.h"
 
@@ -125,6 +126,41 @@ TEST(DrawBackground, TheFarEdgeKeepsItsOuterEndWhenItIsCropped) {
     Painted p(20, 20);
     p.item->SetImageMargin(0, 0, 8, 8);
     EXPECT_THAT(p.Draw(0, 0, 5, 5), ElementsAre("copy 0 0 5 5 15 15 5 5"));
+}
+
+TEST(DrawBackground, ACornerCutInHeightKeepsItsTopEnd) {
+    Painted p(20, 20);
+    p.item->SetImageMargin(8, 8, 0, 0);
+    EXPECT_THAT(p.Draw(0, 0, 5, 5), ElementsAre("copy 0 0 5 5 0 0 5 5"));
+}
+
+TEST(DrawBackground, FarOutsideEverythingNumbersWrapInsteadOfFailing) {
+    const int32_t huge = 2147483647;
+    Painted p(4, 4);
+    p.Glyph(4, 4, 1);
+    p.item->Tile(CopyXYFillRest);
+    p.item->GlyphAlign(RightBottom);
+    EXPECT_FALSE(p.Draw(huge, huge, 9, 9, 0, 0).empty());
+    EXPECT_EQ(p.glyph->calls.size(), 1u);
+}
+
+/// Fails from its third piece on.
+class FailingSurface : public RecordingSurface {
+public:
+    using RecordingSurface::RecordingSurface;
+    void PaintPicture(gdi::HDC dc, int32_t x, int32_t y, int32_t w, int32_t h, int32_t sx,
+                      int32_t sy, int32_t sw, int32_t sh, uint32_t rop) override {
+        if (calls.size() == 2) throw Error(ErrorNumber::OutOfMemory, "surface", "Out of memory");
+        RecordingSurface::PaintPicture(dc, x, y, w, h, sx, sy, sw, sh, rop);
+    }
+};
+
+TEST(DrawBackground, AFailureOfTheSurfaceReachesTheCallerAndWhatWasPaintedStays) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<FailingSurface> image = New<FailingSurface>(30, 30);
+    item->SetImage(image, 1, 0, Normal);
+    EXPECT_EQ(test::RaisedBy([&] { item->DrawBackground(nullptr, 0, 0, 30, 30, 0, 0); }), 7);
+    EXPECT_THAT(image->calls, ElementsAre("copy 0 0 4 4 0 0 4 4", "copy 4 0 22 4 4 0 22 4"));
 }
 
 TEST(TiledEdges, RepeatAtTheirSizeAndCutTheLastStep) {
@@ -285,6 +321,42 @@ TEST(DrawGlyph, LargerThanItsAreaSticksOut) {
     p.item->GlyphAlign(CenterCenter);
     p.Draw(0, 0, 11, 10, 255, 0);
     EXPECT_THAT(p.glyph->calls, ElementsAre("copy -4 -5 20 20 0 0 20 20"));
+}
+
+TEST(DrawGlyph, AnAlignmentBeyondTheColumnsStaysAtTheNearEnd) {
+    for (const int32_t align : {9, -1}) {
+        Painted p(1, 1);
+        p.Glyph(4, 4, 1);
+        p.item->GlyphAlign(align);
+        p.Draw(1, 2, 20, 20, 255, 0);
+        EXPECT_THAT(p.glyph->calls, ElementsAre("copy 1 2 4 4 0 0 4 4")) << align;
+    }
+}
+
+TEST(DrawGlyph, TheFrameOfTheStateStandsForMinusOne) {
+    Painted p(4, 4, 4);
+    p.Glyph(16, 4, 4);
+    p.item->GlyphAlign(Lefttop);
+    p.item->State(E_ItemStateDisabled);
+    p.Draw(0, 0, 4, 4, 255, -1);
+    EXPECT_THAT(p.glyph->calls, ElementsAre("copy 0 0 4 4 12 0 4 4"));
+}
+
+TEST(DrawGlyph, FramesOutsideTheStripPaintNothing) {
+    Painted p(4, 4);
+    p.Glyph(8, 4, 2);
+    for (const int32_t frame : {2, 255, -2}) p.Draw(0, 0, 4, 4, 255, frame);
+    EXPECT_THAT(p.glyph->calls, IsEmpty());
+}
+
+TEST(DrawGlyph, IsDrawnAfterTheImage) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<RecordingSurface> both = New<RecordingSurface>(4, 4);
+    item->SetImage(both, 1, 0, Normal);
+    item->SetImageMargin();
+    item->SetGlyph(both, 1, 0, Normal, 255, DefaultTransColor, RightTop);
+    item->Draw(nullptr, 0, 0, 9, 9, 0);
+    EXPECT_THAT(both->calls, ElementsAre("copy 0 0 9 9 0 0 4 4", "copy 5 0 4 4 0 0 4 4"));
 }
 
 TEST(DrawGlyph, PerPixelAsksForAnAlphaChannelAndUsesTheGlyphsAlpha) {

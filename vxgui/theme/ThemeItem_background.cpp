@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "vxgui/base/Rounding.h"
 #include "vxgui/theme/NineSlice.h"
 #include "vxgui/theme/RectLayout.h"
 #include "vxgui/theme/ThemeItem.h"
@@ -43,7 +44,7 @@ void ForEachPiece(const Band& x, const Band& y, bool tiledX, bool tiledY, Paint 
     });
 }
 
-Span Part(Span span, int32_t offset, int32_t size) { return {span.start + offset, size}; }
+Span Part(Span span, int32_t offset, int32_t size) { return {WrapAdd(span.start, offset), size}; }
 
 // The middle once at its size in the centre of the area, the rest filled with its first pixel.
 template <class Paint>
