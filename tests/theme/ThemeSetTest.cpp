@@ -2,23 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Errors.h"
+
 namespace vxgui {
 namespace {
 
-int32_t NumberOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.Number();
-    }
-    return 0;
-}
+using test::RaisedBy;
 
 TEST(ThemeItemsCollection, ADuplicateKeyRaisesAndReplacesNothing) {
     const Ref<ThemeItems> items = New<ThemeItems>();
     const Ref<ThemeItem> first = New<ThemeItem>();
     items->AddItem(first, "Button");
-    EXPECT_EQ(NumberOf([&] { items->AddItem(New<ThemeItem>(), "BUTTON"); }), 457);
+    EXPECT_EQ(RaisedBy([&] { items->AddItem(New<ThemeItem>(), "BUTTON"); }), 457);
     EXPECT_EQ(items->Item("button"), first);
     EXPECT_EQ(items->Count(), 1);
 }
@@ -33,6 +28,20 @@ TEST(ThemeItemsCollection, UnknownItemsReadAsNoneAndAreRemovedInSilence) {
     EXPECT_EQ(items->Count(), 1);
     items->Remove(1);
     EXPECT_EQ(items->Count(), 0);
+}
+
+TEST(ThemeItemsCollection, AnItemIsFoundByIndexOrKey) {
+    const Ref<ThemeItems> items = New<ThemeItems>();
+    const Ref<ThemeItem> first = New<ThemeItem>(), second = New<ThemeItem>();
+    items->AddItem(first, "");
+    items->AddItem(second, "Button");
+    EXPECT_EQ(items->Item(1), first);
+    EXPECT_EQ(items->Item(2), second);
+    EXPECT_EQ(items->Item("Button"), second);
+    EXPECT_EQ(items->Item(""), nullptr);
+    items->Remove("Button");
+    EXPECT_EQ(items->Item("Button"), nullptr);
+    EXPECT_EQ(items->Count(), 1);
 }
 
 TEST(ThemeItemsCollection, IsWalkedInOrder) {
@@ -65,7 +74,7 @@ TEST(ThemeSetPalette, OutsideItsBoundsIsMinusOne) {
 
 TEST(ThemeSetPalette, WithoutAnyColourReadingRaisesTheSubscriptError) {
     const Ref<ThemeSet> set = New<ThemeSet>();
-    EXPECT_EQ(NumberOf([&] { set->Colour(0); }), 9);
+    EXPECT_EQ(RaisedBy([&] { set->Colour(0); }), 9);
 }
 
 TEST(ThemeSetFonts, AddedOnesAreNumberedFromOne) {
@@ -94,7 +103,7 @@ TEST(ThemeSetItems, AreFoundByNameAndNeverSetTwice) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     set->Item("Button", item);
     EXPECT_EQ(set->Item("Button"), item);
-    EXPECT_EQ(NumberOf([&] { set->Item("Button", New<ThemeItem>()); }), 457);
+    EXPECT_EQ(RaisedBy([&] { set->Item("Button", New<ThemeItem>()); }), 457);
 }
 
 TEST(ThemeSetItems, AreMadeAgainAfterTheyWereTakenAway) {
@@ -103,6 +112,63 @@ TEST(ThemeSetItems, AreMadeAgainAfterTheyWereTakenAway) {
     EXPECT_EQ(set->Item("Button"), nullptr);
     set->Item("Button", New<ThemeItem>());
     EXPECT_NE(set->Item("Button"), nullptr);
+}
+
+TEST(ThemeSetItems, AreThereFromTheStartAndThePoolsAreNot) {
+    const Ref<ThemeSet> set = New<ThemeSet>();
+    ASSERT_NE(set->ThemeItems(), nullptr);
+    EXPECT_EQ(set->ThemeItems()->Count(), 0);
+    EXPECT_EQ(set->Fonts(), nullptr);
+    EXPECT_EQ(set->TextStyles(), nullptr);
+}
+
+TEST(ThemeSetPools, AreSharedWithWhoSetsThem) {
+    const Ref<ThemeSet> set = New<ThemeSet>();
+    const Ref<LFonts> fonts = New<LFonts>();
+    const Ref<TextStyles> styles = New<TextStyles>();
+    const Ref<ThemeItems> items = New<ThemeItems>();
+    set->Fonts(fonts);
+    set->TextStyles(styles);
+    set->ThemeItems(items);
+    EXPECT_EQ(set->Fonts(), fonts);
+    EXPECT_EQ(set->TextStyles(), styles);
+    EXPECT_EQ(set->ThemeItems(), items);
+    set->AddFont(New<LFont>());
+    EXPECT_EQ(fonts->Count(), 1);
+}
+
+/// A set that tells when it ends, held by nobody but the owner of its only item.
+class CircleSet : public ThemeSet {
+public:
+    static CircleSet* Make(bool* ended) {
+        const Ref<CircleSet> set = New<CircleSet>(ended);
+        const Ref<ThemeItem> item = New<ThemeItem>();
+        item->Owner(set);
+        set->Item("Button", item);
+        return set.get();
+    }
+    explicit CircleSet(bool* ended) : ended_(ended) {}
+
+protected:
+    ~CircleSet() override { *ended_ = true; }
+
+private:
+    bool* ended_;
+};
+
+TEST(ThemeSetDispose, MayLetGoOfTheLastReferenceToTheSetItself) {
+    bool ended = false;
+    CircleSet::Make(&ended)->Dispose();
+    EXPECT_TRUE(ended);
+}
+
+TEST(ThemeItemsCollection, MayRemoveWhatHoldsItsLastReference) {
+    for (const bool byKey : {true, false}) {
+        bool ended = false;
+        ThemeItems* const items = CircleSet::Make(&ended)->ThemeItems().get();
+        byKey ? items->Remove("Button") : items->Remove(1);
+        EXPECT_TRUE(ended);
+    }
 }
 
 TEST(ThemeSetDispose, LetsGoOfAllButThePalette) {

@@ -32,6 +32,7 @@ void ThemeSet::Item(const String& ItemName, const Ref<ThemeItem>& value) {
 }
 
 void ThemeSet::Dispose() {
+    const KeepAlive keep(this);  // an item may hold its owner's last reference
     items_ = nullptr;
     fonts_ = nullptr;
     styles_ = nullptr;
