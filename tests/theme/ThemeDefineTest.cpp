@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/support/Errors.h"
 #include "vxgui/theme/ThemeSetFile.h"
 
 namespace vxgui {
@@ -63,6 +64,36 @@ TEST_F(ThemeDefine, ACountOfNoughtLeavesTheEarlierPool) {
     EXPECT_EQ(set->Fonts()->Count(), 2);
 }
 
+TEST_F(ThemeDefine, ACountBelowNoughtEmptiesThePool) {
+    set->AddFont(New<LFont>());
+    set->Item("Old", New<ThemeItem>());
+    Load("[ThemeSet]\nFonts=-1\nTextStyles=-1\nThemes=-1\n");
+    EXPECT_EQ(set->Fonts()->Count(), 0);
+    EXPECT_EQ(set->TextStyles()->Count(), 0);
+    EXPECT_EQ(set->ThemeItems()->Count(), 0);
+}
+
+TEST_F(ThemeDefine, ACountBeyondAnyFileRaisesTheOverflowError) {
+    for (const char* key : {"Fonts", "TextStyles", "Themes"}) {
+        for (const char* count : {"100001", "2147483647"}) {
+            const String text = String("[ThemeSet]\n") + key + "=" + count;
+            EXPECT_EQ(test::RaisedBy([&] { Load(text); }), 6) << key;
+        }
+    }
+    EXPECT_EQ(set->Fonts(), nullptr);
+}
+
+TEST_F(ThemeDefine, TheLoadAnswersNought) {
+    EXPECT_EQ(ThemeSetFromDefine(set, core7::CreateDefineFile(), ""), 0);
+}
+
+TEST_F(ThemeDefine, SectionsThatAreMissingHaveTheirDefaults) {
+    Load("[ThemeSet]\nFonts=1\nTextStyles=1\nThemes=1\n");
+    EXPECT_TRUE(set->Fonts()->Item("Font_01")->Equal(New<LFont>()));
+    EXPECT_TRUE(set->TextStyles()->Item("TextStyle_01")->Equal(New<TextStyle>()));
+    EXPECT_EQ(set->Item("Theme_01")->Image(), nullptr);
+}
+
 TEST_F(ThemeDefine, FontNumbersDontReachFontsFromAFile) {
     Load("[ThemeSet]\nFonts=1\n");
     EXPECT_NE(set->Fonts()->Item("Font_01"), nullptr);
@@ -89,6 +120,36 @@ TEST_F(ThemeDefine, TheImageKeysAreReadInFull) {
     EXPECT_EQ(item->TileTop(), 0);
     EXPECT_EQ(item->TileRight(), -1);
     EXPECT_EQ(item->TileBottom(), 0);
+}
+
+TEST_F(ThemeDefine, TheBackColourStandsForTheKeyUntilThatIsGiven) {
+    const Ref<ThemeItem> item = LoadItem(
+        "Image=strip.tga\nImageBackColor=1,2,3\nGlyphImage=strip.tga\n"
+        "GlyphBackColor=4,5,6 ; dark\n");
+    EXPECT_EQ(item->Image()->TransparentColor(), 0x030201);
+    EXPECT_EQ(item->Glyph()->TransparentColor(), 0x060504);
+}
+
+TEST_F(ThemeDefine, AnImageWithoutAFrameCountHasNoFrames) {
+    const Ref<core7::DefineFile> file = core7::CreateDefineFile();
+    file->LoadText("[Theme_01]\nImage=strip.tga\n");
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(5);
+    item->FromThemeDefine(file, "Theme_01", set, folder);
+    EXPECT_EQ(item->FrameCount(), 0);  // stored past the setter, which would keep the 5
+}
+
+TEST_F(ThemeDefine, AMissingGlyphLeavesTheEarlierOne) {
+    const Ref<core7::DefineFile> file = core7::CreateDefineFile();
+    file->LoadText("[Theme_01]\nGlyphImage=none.tga\nGlyphAlign=5\nGlyphFrames=3\n");
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<cAlphaDIBSection> glyph = New<cAlphaDIBSection>();
+    item->Glyph(glyph);
+    item->GlyphFrames(2);
+    item->FromThemeDefine(file, "Theme_01", set, folder);
+    EXPECT_EQ(item->Glyph(), glyph);
+    EXPECT_EQ(item->GlyphFrames(), 2);
+    EXPECT_EQ(item->GlyphAlign(), 1);
 }
 
 TEST_F(ThemeDefine, WithoutATransModeTheImageIsPerPixelAndPremultiplied) {
@@ -191,6 +252,13 @@ TEST_F(ThemeDefine, AFrameOrderIsAListOfFrames) {
     EXPECT_EQ(item->FrameOrder(), -1);
     EXPECT_EQ(item->StateFrames(), (ByteArray{0, 1, 2, 3, 4, 5, 6, 7, 8}));
     EXPECT_EQ(item->GlyphStateFrames(), (ByteArray{3, 255, 2, 2, 4, 5, 6, 7, 8}));
+}
+
+TEST_F(ThemeDefine, MoreFontsThanStatesHaveTheNamesOfNumbers) {
+    const Ref<ThemeItem> item = LoadItem("Fonts=0,0,0,0,0,0,0,0,1,3\n");
+    EXPECT_EQ(item->StateFont(E_ItemStateFocusMouseOver), set->Fonts()->Item("Font_01"));
+    EXPECT_EQ(item->Fonts()->Item("State_#9"), set->Fonts()->Item("Font_03"));
+    EXPECT_EQ(item->Fonts()->Count(), 2);
 }
 
 TEST_F(ThemeDefine, ReadingAgainReplacesTheStatesCollections) {
