@@ -76,6 +76,27 @@ TEST(StateFrame, AFrameBeyondTheStripFallsBackThroughTheTable) {
     EXPECT_EQ(item->StateFrame(E_ItemStateDefault), 1);
 }
 
+TEST(StateFrame, OfTheOwnTableGoesTheWholeWayToNormal) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(3);
+    item->StateFrames(ByteArray{2, 9, 9, 9, 9, 9, 9, 9, 9});
+    for (int32_t state = 0; state < 9; ++state) {
+        EXPECT_EQ(item->StateFrame(state), state == E_ItemStateGroup ? 255 : 2) << state;
+    }
+    item->StateFrames(ByteArray{3});
+    EXPECT_EQ(item->StateFrame(E_ItemStateNormal), 255);
+    EXPECT_EQ(item->StateFrame(E_ItemStateFocus), 255);
+}
+
+TEST(StateFrame, BorrowsTheFrameThatTheTableKeepsFromIt) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(3);
+    item->StateFrames(ByteArray{0, 255, 1, 2, 9, 9, 9});
+    EXPECT_EQ(item->StateFrame(E_ItemStateDefault), 255);  // MouseOver has none, and says so
+    EXPECT_EQ(item->StateFrame(E_ItemStateFocus), 255);
+    EXPECT_EQ(item->StateFrame(E_ItemStateFocusPressed), 1);
+}
+
 TEST(StateFrame, OutsideTheStatesIsFrameNought) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->FrameCount(1);
@@ -107,6 +128,33 @@ TEST(GlyphStateFrame, IsTestedAgainstTheStoredGlyphFrames) {
     // The image's rule answers 1 for MouseOver, which the glyph doesn't have; so on to Normal.
     EXPECT_EQ(item->GlyphStateFrame(E_ItemStateMouseOver), 0);
     EXPECT_EQ(item->GlyphStateFrame(E_ItemStateDefault), 0);
+}
+
+TEST(GlyphStateFrame, FollowsTheNamedOrderOfItsOwn) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(8);
+    item->GlyphFrames(8);
+    item->FrameOrder(0);  // the image's order alone
+    for (int32_t state = 0; state < 9; ++state) {
+        EXPECT_EQ(item->GlyphStateFrame(state), kOrder1[8][state]) << state;
+    }
+}
+
+TEST(GlyphStateFrame, BorrowsByTheImagesOrder) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(8);
+    item->FrameOrder(0);
+    item->GlyphFrames(4);
+    // Default has the glyph frame 4, which isn't there; MouseOver is frame 3 by the image's order.
+    EXPECT_EQ(item->GlyphStateFrame(E_ItemStateDefault), 3);
+    EXPECT_EQ(item->GlyphStateFrame(E_ItemStateGroup), 255);
+}
+
+TEST(GlyphStateFrame, NoFrameOfTheImageEndsTheWalk) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->GlyphFrames(1);  // and the image has no frames at all
+    EXPECT_EQ(item->GlyphStateFrame(E_ItemStateNormal), 0);
+    EXPECT_EQ(item->GlyphStateFrame(E_ItemStatePressed), 255);
 }
 
 TEST(StateNames, AreTheNineNamesAndNumbersBeyond) {

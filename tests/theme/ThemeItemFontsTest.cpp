@@ -52,6 +52,11 @@ TEST(StateColour, PicksTheNumberByTheTable) {
     const ColourCase cases[] = {
         {E_ItemStateNormal, all, 3},
         {E_ItemStateNormal, N{1, 2, -1}, 1},
+        {E_ItemStateNormal, N{1, 2, 0}, 0},  // 0 is a number like any other
+        {E_ItemStateMouseOver, N{1, 0, 3, 4, 5}, 0},
+        {E_ItemStateFocus, N{1, 2, 3, 4, 0}, 0},
+        {E_ItemStateNormal, N{-1, 2, -1}, -1},
+        {E_ItemStatePressed, N{1, 2, 3, -1}, -1},
         {E_ItemStateMouseOver, all, 2},
         {E_ItemStateMouseOver, N{1, -1, 3, 4, 5}, 5},
         {E_ItemStateMouseOver, N{1, -1, 3, 4, -1}, 1},
@@ -64,6 +69,7 @@ TEST(StateColour, PicksTheNumberByTheTable) {
         {E_ItemStateDisabled, all, 8},
         {E_ItemStateDefault, all, 1},
         {E_ItemStateDefault, N{0, 2, 3}, 3},
+        {E_ItemStateDefault, N{-1, 2, 3}, -1},  // only 0 gives way here
         {E_ItemStateFocusMouseOver, all, 1},
         {42, all, 1},
     };
@@ -115,6 +121,47 @@ TEST(GetStateFont, NeverAnswersNone) {
     EXPECT_FALSE(item->GetStateFont(E_ItemStateNormal) == font);  // made afresh, not stored
 }
 
+TEST(GetStateFont, WithAnOwnerThatHasNoneIsMadeAfresh) {
+    class EmptyOwner : public ThemeOwner {
+        int32_t Colour(int32_t) override { return -1; }
+        Ref<LFont> Font(int32_t) override { return nullptr; }
+    };
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateFont(E_ItemStateNormal, FontOf(10));  // which the owner keeps from being asked
+    item->Owner(New<EmptyOwner>());
+    const Ref<LFont> expected = New<LFont>();
+    expected->DefaultGuiFont(DEFAULT_QUALITY);
+    EXPECT_TRUE(item->GetStateFont(E_ItemStateNormal)->Equal(expected));
+}
+
+TEST(CurrentFontAndStyle, AreThoseOfTheState) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<LFont> font = FontOf(10);
+    const Ref<TextStyle> style = StyleOf(7);
+    item->StateFont(E_ItemStatePressed, font);
+    item->StateTextStyle(E_ItemStatePressed, style);
+    item->State(E_ItemStatePressed);
+    EXPECT_EQ(item->CurrentFont(), font);
+    EXPECT_EQ(item->CurrentTextStyle(), style);
+}
+
+TEST(StateFontSetter, ReplacesTheStatesEntry) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateFont(E_ItemStateFocus, FontOf(1));
+    const Ref<LFont> second = FontOf(2);
+    item->StateFont(E_ItemStateFocus, second);
+    EXPECT_EQ(item->StateFont(E_ItemStateFocus), second);
+    EXPECT_EQ(item->Fonts()->Count(), 1);
+}
+
+TEST(StateFontSetter, OfNoneMakesTheCollectionAllTheSame) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateFont(E_ItemStateFocus, nullptr);
+    item->StateTextStyle(E_ItemStateFocus, nullptr);
+    EXPECT_EQ(item->StateFont(E_ItemStateFocus), nullptr);
+    EXPECT_EQ(item->Fonts()->Count() + item->TextStyles()->Count(), 0);
+}
+
 TEST(StateFontSetter, WorksOnTheCollectionEvenWithAnOwner) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->Owner(New<ActedOwner>());
@@ -139,6 +186,25 @@ TEST(GetStateTextStyle, DisabledBorrowsNormalInGrey) {
     EXPECT_EQ(disabled->TextColor, kGray);
     EXPECT_EQ(normal->TextColor, 0x123456);
     EXPECT_EQ(item->GetStateTextStyle(E_ItemStatePressed), normal);
+}
+
+TEST(GetStateTextStyle, AStateWithAStyleOfItsOwnHasIt) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<TextStyle> disabled = StyleOf(1), normal = StyleOf(2);
+    item->StateTextStyle(E_ItemStateDisabled, disabled);
+    EXPECT_EQ(item->GetStateTextStyle(E_ItemStateDisabled), disabled);
+    EXPECT_EQ(item->GetStateTextStyle(E_ItemStateNormal)->TextColor, kButton);
+    item->StateTextStyle(E_ItemStateNormal, normal);
+    EXPECT_EQ(item->GetStateTextStyle(E_ItemStateDisabled), disabled);
+    EXPECT_EQ(disabled->TextColor, 1);
+}
+
+TEST(GetStateTextStyle, WhatIsMadeIsNotStored) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    EXPECT_FALSE(item->GetStateTextStyle(0) == item->GetStateTextStyle(0));
+    item->StateTextStyle(E_ItemStateNormal, StyleOf(5));
+    EXPECT_FALSE(item->GetStateTextStyle(3) == item->GetStateTextStyle(3));
+    EXPECT_EQ(item->TextStyles()->Count(), 1);
 }
 
 TEST(CollectionProperties, AreMadeOnDemandAndShared) {
@@ -180,6 +246,40 @@ TEST(MinimizeFonts, DropsWhatSaysNoMoreThanNormal) {
     EXPECT_NE(item->StateFont(E_ItemStatePressed), nullptr);
     EXPECT_NE(item->StateFont(8), nullptr);  // never touched
     EXPECT_NE(item->StateFont(0), nullptr);
+}
+
+TEST(MinimizeFonts, LeavesAnEntryThatNothingIsComparedWith) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateFont(E_ItemStatePressed, FontOf(10));
+    item->MinimizeFonts();
+    EXPECT_NE(item->StateFont(E_ItemStatePressed), nullptr);
+    const Ref<LFont> gui = New<LFont>();
+    gui->DefaultGuiFont();
+    item->StateFont(E_ItemStateFocus, gui);  // what an item without a Normal font draws with
+    item->MinimizeFonts();
+    EXPECT_EQ(item->StateFont(E_ItemStateFocus), nullptr);
+}
+
+TEST(MinimizeTextStyles, GoesOverTheStatesUpToGroup) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    for (int32_t state = 0; state <= 8; ++state) {
+        item->StateTextStyle(state, StyleOf(state == E_ItemStateDisabled ? kGray : 5));
+    }
+    item->MinimizeTextStyles();
+    for (int32_t state = 0; state <= 8; ++state) {
+        const bool kept = state == E_ItemStateNormal || state == E_ItemStateFocusMouseOver;
+        EXPECT_EQ(item->StateTextStyle(state) != nullptr, kept) << state;
+    }
+}
+
+TEST(MinimizeTextStyles, DropsADisabledEntryThatIsTheNormalObjectItself) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<TextStyle> style = StyleOf(5);
+    item->StateTextStyle(E_ItemStateNormal, style);
+    item->StateTextStyle(E_ItemStateDisabled, style);
+    item->MinimizeTextStyles();  // its colour changes on both sides of the comparison
+    EXPECT_EQ(item->StateTextStyle(E_ItemStateDisabled), nullptr);
+    EXPECT_EQ(style->TextColor, 5);
 }
 
 TEST(MinimizeTextStyles, ComparesDisabledWithTheGreyOfNormal) {

@@ -139,6 +139,19 @@ TEST(TransModeProperty, PerPixelPremultipliesTheImageOnce) {
     EXPECT_EQ(surface->GetPixel(0, 0), 0x7F7F7F7F);
 }
 
+TEST(GlyphTransModeProperty, PerPixelPremultipliesTheGlyph) {
+    const Ref<RecordingSurface> image = New<RecordingSurface>(2, 1),
+                                glyph = New<RecordingSurface>(2, 1);
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->Image(image);
+    item->Glyph(glyph);
+    item->GlyphTransMode(Trans);
+    EXPECT_EQ(glyph->premultiplied, 0);
+    item->GlyphTransMode(PerPixel);
+    EXPECT_EQ(glyph->premultiplied, 1);
+    EXPECT_EQ(image->premultiplied, 0);
+}
+
 TEST(ImageSize, IsThatOfOneFrame) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     EXPECT_EQ(item->ImageWidth(), 0);
@@ -164,6 +177,33 @@ TEST(SetImage, TurnsAKeyWithPartialOpacityIntoAlpha) {
     EXPECT_EQ(item->FrameCount(), 2);
     EXPECT_EQ(item->FrameVert(), -1);
     EXPECT_EQ(item->ImageAlpha(), 252);
+}
+
+TEST(SetImage, TurnsAKeyIntoAlphaForAnAlphaOfNoughtToo) {
+    const Ref<RecordingSurface> surface = New<RecordingSurface>(2, 1);
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->SetImage(surface, 1, 0, Trans, 0);
+    EXPECT_EQ(surface->keyed, 1);
+    EXPECT_EQ(item->TransMode(), PerPixel);
+}
+
+TEST(SetImage, WithoutASurfaceKeepsTheModeAskedFor) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->SetImage(nullptr, 1, 0, Trans, 100);
+    EXPECT_EQ(item->TransMode(), Trans);
+    EXPECT_EQ(item->ImageAlpha(), 100);
+}
+
+TEST(SetImage, HasOpaqueAndMagentaForDefaults) {
+    const Ref<RecordingSurface> surface = New<RecordingSurface>(2, 1);
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    surface->TransparentColor(5);
+    item->ImageAlpha(9);
+    item->SetImage(surface, 1, 0, PerPixel);
+    EXPECT_EQ(item->ImageAlpha(), 255);
+    EXPECT_EQ(surface->TransparentColor(), 0xFF00FF);
+    EXPECT_GT(surface->premultiplied, 0);
+    EXPECT_EQ(surface->keyed, 0);
 }
 
 TEST(SetImage, KeepsAKeyAtNearlyFullOpacity) {
