@@ -1,7 +1,8 @@
 #pragma once
 
 #include "vxgui/base/Variant.h"
-#include "vxgui/platform/gdi_types.h"
+#include "vxgui/platform/gdiplus_types.h"
+#include "vxgui/platform/ole.h"
 
 namespace vxgui {
 
@@ -16,6 +17,25 @@ public:
     bool UseSystemAlphaAlphaBlend() const;
     void UseSystemAlphaAlphaBlend(bool value);
 
+    // Loading pictures. None when it can't be done; nothing raises. Files and blocks of memory may
+    // be BMP, GIF, ICO, JPEG, PNG, TGA or TIFF. A background of -1 is white.
+    Ref<ole::Picture> LoadPicture2(const String& Filename);
+    Ref<ole::Picture> LoadPictureFromFile(const String& Filename, int32_t BackgraundColor = -1);
+    Ref<ole::Picture> LoadPictureFromMemAddr(const void* lpMem, int32_t nSize,
+                                             bool TGAFormat = false, int32_t BackgraundColor = -1);
+    Ref<ole::Picture> LoadPictureFromByteArray(const ByteArray& abPic, bool TGAFormat = false,
+                                               int32_t BackgraundColor = -1);
+    Ref<ole::Picture> LoadPictureFromGdiHandle(gdi::HGDIOBJ GDIHandle, int16_t PicType = 1,
+                                               bool DeleteGDIHandleWhenDestroyed = true);
+    /// `Flags` names up to three attempts by its hexadecimal digits, the lowest first: 1 GDI+,
+    /// 2 the platform's loader, 3 TGA, any other none.
+    Ref<ole::Picture> PictureFromMemAddr(const void* lpBits, int32_t nSize, int32_t Flags);
+    Ref<ole::Picture> PictureFromByteArray(const ByteArray& abPic, int32_t Flags);
+    Ref<ole::Picture> PictureFromFile(const String& Filename, int32_t Flags);
+    /// The bytes of a picture as a file of its kind. False, and the array stays, when there are
+    /// none.
+    bool GetPictureBits(const Ref<ole::Picture>& pic, ByteArray& abPic);
+
     /// Blends a rectangle of one context over one of another, by the blits that the switch says.
     /// Answers 0, whatever happens.
     int32_t AlphaBlend(gdi::HDC hdcDst, int32_t nXOriginDst, int32_t nYOriginDst, int32_t nWidthDst,
@@ -27,6 +47,18 @@ public:
                            int32_t nWidthDst, int32_t hHeightDst, gdi::HDC hdcSrc,
                            int32_t nXOriginSrc, int32_t nYOriginSrc, int32_t nWidthSrc,
                            int32_t nHeightSrc, int32_t cTransparentColor);
+
+    /// Draws a picture, in the cheapest way that honours `Alpha` and `TransparentColor` (a
+    /// COLORREF, -1 for none). A size of -1 is the rest of the picture. An icon is drawn whole and
+    /// opaque or not at all; a size below 0 is its own. A 32-bit bitmap of uniform alpha is drawn
+    /// with a key even where none is given. Answers 0, whatever happens.
+    int32_t PaintPicture(gdi::HDC hdcDst, const Ref<ole::Picture>& Picture, int32_t nXOriginDst = 0,
+                         int32_t nYOriginDst = 0, int32_t nWidthDst = -1, int32_t nHeightDst = -1,
+                         int32_t nXOriginSrc = 0, int32_t nYOriginSrc = 0, int32_t nWidthSrc = -1,
+                         int32_t nHeightSrc = -1, uint8_t Alpha = 255,
+                         int32_t TransparentColor = -1);
+    /// An image that the host disposes of; null when the file can't be read.
+    gdiplus::GpImage* GdipLoadImageFromFile(const String& Filename);
 
     /// A command and its three operands; a failure inside is ignored, and leaves the result
     /// empty, as an unknown command does.

@@ -1,0 +1,127 @@
+#include "tests/frame/FrameTest.h"
+#include "tests/support/GdiplusSession.h"
+#include "tests/support/Images.h"
+#include "vxgui/base/Error.h"
+#include "vxgui/frame/VxGuiGlobal.h"
+#include "vxgui/frame/modGdiplus.h"
+#include "vxgui/platform/gdi_surfaces.h"
+
+namespace vxgui {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// A picture that can't be saved: it raises, or answers true with nothing.
+class Unsavable : public ole::Picture {
+public:
+    explicit Unsavable(bool raises) : raises_(raises) {}
+    gdi::HGDIOBJ Handle() const override { return nullptr; }
+    int16_t Type() const override { return ole::kPictureNone; }
+    int32_t Width() const override { return 0; }
+    int32_t Height() const override { return 0; }
+    void Render(gdi::HDC, int32_t, int32_t, int32_t, int32_t, int32_t, int32_t, int32_t,
+                int32_t) const override {}
+    bool SaveAsFile(ByteArray*) const override {
+        if (raises_) throw Error(ErrorNumber::OutOfMemory, "acted", "no memory");
+        return true;
+    }
+
+private:
+    bool raises_;
+};
+
+/// With the companions that this library brings.
+class PictureCalls : public FrameTest {
+protected:
+    PictureCalls() { kernel::SetKernel(nullptr); }
+
+    static ByteArray BytesOf(const std::string& file) {
+        ByteArray bytes;
+        core7::ReadWholeFile(test::ImagePath(file), &bytes);
+        return bytes;
+    }
+
+    test::GdiplusSession session_;
+};
+
+TEST_F(PictureCalls, LoadFromEachSource) {
+    const String path = test::ImagePath("bmp-24.bmp");
+    const ByteArray bytes = BytesOf("bmp-24.bmp");
+    const void* memory = bytes.data();
+    const auto size = static_cast<int32_t>(bytes.size());
+    ASSERT_GT(size, 0);
+    VxGuiGlobal& global = Global();
+    EXPECT_NE(global.LoadPicture2(path), nullptr);
+    EXPECT_NE(global.LoadPictureFromFile(path), nullptr);
+    EXPECT_NE(global.LoadPictureFromMemAddr(memory, size), nullptr);
+    EXPECT_NE(global.LoadPictureFromByteArray(bytes), nullptr);
+    EXPECT_NE(global.PictureFromMemAddr(memory, size, 1), nullptr);
+    EXPECT_NE(global.PictureFromByteArray(bytes, 1), nullptr);
+    EXPECT_NE(global.PictureFromFile(path, 1), nullptr);
+}
+
+TEST_F(PictureCalls, PassTheirOptionsOn) {
+    const ByteArray bytes = BytesOf("bmp-24.bmp");
+    const auto size = static_cast<int32_t>(bytes.size());
+    VxGuiGlobal& global = Global();
+    // It is no TGA, and attempt 4 is none.
+    EXPECT_EQ(global.LoadPictureFromMemAddr(bytes.data(), size, true), nullptr);
+    EXPECT_EQ(global.LoadPictureFromByteArray(bytes, true), nullptr);
+    EXPECT_EQ(global.PictureFromMemAddr(bytes.data(), size, 4), nullptr);
+    EXPECT_EQ(global.PictureFromByteArray(bytes, 4), nullptr);
+    EXPECT_EQ(global.PictureFromFile(test::ImagePath("bmp-24.bmp"), 4), nullptr);
+}
+
+TEST_F(PictureCalls, AnswerNoneForAFileThatIsNotThere) {
+    EXPECT_EQ(Global().LoadPicture2("/no/such/file.png"), nullptr);
+    EXPECT_EQ(Global().LoadPictureFromFile("/no/such/file.png"), nullptr);
+    EXPECT_EQ(Global().PictureFromFile("/no/such/file.png", 0x321), nullptr);
+}
+
+TEST_F(PictureCalls, TakeAHandleOverUnlessTold) {
+    const gdi::HBITMAP bitmap = gdi::CreateBitmap(1, 1, 1, 32, nullptr);
+    EXPECT_NE(Global().LoadPictureFromGdiHandle(bitmap, 1, false), nullptr);
+    EXPECT_NE(Global().LoadPictureFromGdiHandle(bitmap), nullptr);
+    EXPECT_EQ(Global().LoadPictureFromGdiHandle(bitmap), nullptr);  // it went with the picture
+}
+
+TEST_F(PictureCalls, GetTheBytesOfAPicture) {
+    const Ref<ole::Picture> picture = Global().LoadPicture2(test::ImagePath("bmp-24.bmp"));
+    ByteArray bytes, saved;
+    EXPECT_TRUE(Global().GetPictureBits(picture, bytes));
+    ASSERT_TRUE(picture->SaveAsFile(&saved));
+    EXPECT_EQ(bytes, saved);
+    EXPECT_EQ(bytes.at(0), 'B');
+}
+
+TEST_F(PictureCalls, GetNoBytesOfWhatHasNone) {
+    ByteArray bytes = {1, 2, 3};
+    EXPECT_FALSE(Global().GetPictureBits(nullptr, bytes));
+    EXPECT_FALSE(Global().GetPictureBits(New<Unsavable>(false), bytes));
+    EXPECT_THAT(bytes, ElementsAre(1, 2, 3));
+}
+
+TEST_F(PictureCalls, ReportAPictureThatCannotBeSaved) {
+    kernel::SetKernel(&kernel_);
+    kernel::SetLastError(0);
+    ByteArray bytes = {1, 2, 3};
+    EXPECT_FALSE(Global().GetPictureBits(New<Unsavable>(true), bytes));
+    EXPECT_THAT(bytes, ElementsAre(1, 2, 3));
+    EXPECT_THAT(kernel_.calls,
+                ElementsAre("message 在过程 gUtilities::Public Function GetPictureBits "
+                            "发生意外的错误: \r\n错误代码:7 0x7\r\n错误描述:no memory"
+                            "|VxGUI|10010"));
+}
+
+TEST_F(PictureCalls, GiveTheHostAnImageOfItsOwn) {
+    gdiplus::GpImage* image = Global().GdipLoadImageFromFile(test::ImagePath("bmp-24.bmp"));
+    ASSERT_NE(image, nullptr);
+    UINT width = 0;
+    EXPECT_EQ(flat::GdipGetImageWidth(image, &width), gdiplus::Ok);
+    EXPECT_EQ(width, 13u);
+    EXPECT_EQ(flat::GdipDisposeImage(image), gdiplus::Ok);
+    EXPECT_EQ(Global().GdipLoadImageFromFile("/no/such/file.png"), nullptr);
+}
+
+}  // namespace
+}  // namespace vxgui
