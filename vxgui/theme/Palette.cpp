@@ -19,4 +19,10 @@ int32_t Palette::Add(int32_t colour) {
     return index;
 }
 
+void Palette::Set(int32_t index, int32_t colour) {
+    const auto at = static_cast<size_t>(index);
+    if (at >= colours_.size()) colours_.resize(at + 1);
+    colours_[at] = colour;
+}
+
 }  // namespace vxgui
