@@ -213,6 +213,15 @@ TEST(SurfaceNineGrid, WithoutMarginsThereIsOneCentre) {
     EXPECT_EQ(Pieces(Grid(30, 20, 10, 8, 0, 0, 0, 0, 0)), Calls{"100 200 30 20 10 20 10 8"});
 }
 
+TEST(SurfaceNineGrid, InATargetTooSmallForBothMarginsTheFarOneLiesOverTheNear) {
+    EXPECT_EQ(Pieces(Grid(6, 8, 20, 8, 0, 4, 0, 4, 0)),
+              (Calls{"100 200 4 8 10 20 4 8", "102 200 4 8 26 20 4 8"}));
+}
+
+TEST(SurfaceNineGrid, AFarMarginThatIsCutKeepsTheOuterEdgeOfTheSource) {
+    EXPECT_EQ(Pieces(Grid(3, 8, 20, 8, 0, 0, 0, 5, 0)), (Calls{"100 200 3 8 27 20 3 8"}));
+}
+
 TEST(SurfaceNineGrid, EdgesAreTiledByTheirBitsAndTheLastTileIsCut) {
     EXPECT_EQ(Pieces(Grid(12, 4, 7, 4, 0x20000000, 1, 2, 1, 2)),
               (Calls{"100 200 1 2 10 20 1 2", "101 200 5 2 11 20 5 2", "106 200 5 2 11 20 5 2",

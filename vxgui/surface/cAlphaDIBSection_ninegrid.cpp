@@ -17,13 +17,14 @@ struct Axis {
     Run near, middle, far;
 };
 
-/// Destination margins first: the near one is limited by the destination and the source, the
-/// far one by what the near one leaves of the destination, so that pieces never overlap. A far
-/// source margin that is cut loses its inner part, so that the outer edge of the source stays.
+/// Destination margins first: both are limited by the destination, the near one by the source
+/// too. Each by itself, so that in a destination too small for both the far one, painted last,
+/// lies over the near one. A far source margin that is cut loses its inner part, so that the
+/// outer edge of the source stays.
 Axis Divide(int32_t dst, int32_t dstSize, int32_t src, int32_t srcSize, int32_t nearMargin,
             int32_t farMargin) {
     const int32_t near = std::clamp(nearMargin, 0, std::max(0, std::min(dstSize, srcSize)));
-    const int32_t far = std::clamp(farMargin, 0, std::max(0, dstSize - near));
+    const int32_t far = std::clamp(farMargin, 0, std::max(0, dstSize));
     const int32_t farSource = std::min(std::clamp(farMargin, 0, std::max(0, srcSize)), far);
     const int32_t middle = dstSize - near - far;
     const int32_t middleSource = std::min(srcSize - near - farSource, middle);
