@@ -268,8 +268,8 @@ TEST(SurfaceNineGrid, ACentreShownOnceSitsAmidItsFirstPixel) {
 
 TEST(SurfaceNineGrid, AMarginCutByTheDestinationKeepsTheOuterEdgeOfTheSource) {
     EXPECT_EQ(Pieces(Grid(5, 5, 10, 10, 0, 3, 3, 4, 4)),
-              (Calls{"100 200 3 3 10 20 3 3", "103 200 2 3 18 20 2 3", "100 203 3 2 10 28 3 2",
-                     "103 203 2 2 18 28 2 2"}));
+              (Calls{"100 200 3 3 10 20 3 3", "101 200 4 3 16 20 4 3", "100 201 3 4 10 26 3 4",
+                     "101 201 4 4 16 26 4 4"}));
 }
 
 TEST(SurfaceNineGrid, AMiddleSmallerThanTheSourceIsNotShrunk) {
