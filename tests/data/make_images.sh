@@ -10,6 +10,7 @@ set -euo pipefail
 cd "$(dirname "$0")/images"
 PYTHON=${PYTHON:-python3}
 rm -f ./*
+export SOURCE_DATE_EPOCH=0  # PNG files of ImageMagick hold dates
 
 # The motif: 13 x 11, so that rows need padding at every depth; every pixel is different. Its alpha
 # runs from clear at the left to opaque at the right.
@@ -194,6 +195,31 @@ convert motif-grey.png -monochrome -compress Group4 tiff-g4.tif
 expect_pillow tiff-rgb.tif tiff-rgb-lzw.tif tiff-rgb-tiled.tif tiff-rgb-msb.tif tiff-rgba.tif \
     tiff-palette.tif tiff-g4.tif
 expect_magick tiff-grey-16.tif tiff-rgba-associated.tif
+
+# --- ICO and CUR ---------------------------------------------------------------------------------
+convert motif-alpha.png ico-32.ico
+convert motif.png -colors 16 -type Palette ico-4.ico
+convert motif.png -colors 200 -type Palette ico-8.ico
+convert motif-alpha.png \( motif.png -resize 50% \) ico-two.ico
+"$PYTHON" - <<'PY'
+import struct
+from PIL import Image
+motif = Image.open("motif-alpha.png")
+motif.save("ico-png.ico", sizes=[(13, 11)])
+# A cursor is an icon of type 2 with a hot spot in the place of planes and depth.
+data = bytearray(open("ico-32.ico", "rb").read())
+struct.pack_into("<H", data, 2, 2)
+struct.pack_into("<HH", data, 10, 5, 3)
+open("cur-32.cur", "wb").write(data)
+# The mask: every third pixel of the 8-bit icon is clear. The mask is the last 11 rows of 4 bytes.
+data = bytearray(open("ico-8.ico", "rb").read())
+for y in range(11):
+    for x in range(0, 13, 3):
+        data[len(data) - 44 + (10 - y) * 4 + x // 8] |= 0x80 >> x % 8
+open("ico-8-mask.ico", "wb").write(data)
+PY
+expect_pillow ico-32.ico ico-4.ico ico-8.ico ico-png.ico ico-8-mask.ico
+cp ico-32.ico.bgra cur-32.cur.bgra
 
 # --- TGA -----------------------------------------------------------------------------------------
 convert motif.png -type TrueColor -compress none tga-24.tga

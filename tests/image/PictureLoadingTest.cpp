@@ -79,20 +79,38 @@ TEST_F(PictureLoading, TheLastFourCharactersChooseTheDecoder) {
         bool loads;
     };
     const Case cases[] = {
-        {"a.tga", TgaFile(), 1, true},   {"a.TGA", TgaFile(), 1, true},
-        {"a.Tga", TgaFile(), 1, true},   {"a.tga", PngFile(), 1, false},
-        {"a.png", PngFile(), 1, true},   {"a.png", TgaFile(), 1, false},
-        {"a.jpeg", PngFile(), 1, true},  {"tga", TgaFile(), 1, false},
-        {"a.xtga", TgaFile(), 1, false}, {"a.bmp", BmpFile(), 1, true},
-        {"a.ico", PngFile(), 3, false},  {"a.CUR", PngFile(), 3, false},
+        {"a.tga", TgaFile(), 1, true},
+        {"a.TGA", TgaFile(), 1, true},
+        {"a.Tga", TgaFile(), 1, true},
+        {"a.tga", PngFile(), 1, false},
+        {"a.png", PngFile(), 1, true},
+        {"a.png", TgaFile(), 1, false},
+        {"a.jpeg", PngFile(), 1, true},
+        {"tga", TgaFile(), 1, false},
+        {"a.xtga", TgaFile(), 1, false},
+        {"a.bmp", BmpFile(), 1, true},
+        {"a.ico", PngFile(), 3, false},
+        {"a.CUR", PngFile(), 3, false},
+        {"a.ico", test::ReadTestFile("images/ico-32.ico"), 3, true},
+        {"a.Cur", test::ReadTestFile("images/cur-32.cur"), 3, true},
     };
     for (const Case& each : cases) {
         int16_t type = 77;
         const gdi::HGDIOBJ handle = LoadPictureHandle(MakeFile(each.name, each.bytes), type, 0);
         EXPECT_EQ(handle != nullptr, each.loads) << each.name;
         EXPECT_EQ(type, each.type) << each.name;
-        if (handle) gdi::DeleteObject(handle);
+        PictureFromHandle(handle, type, true);  // which deletes it
     }
+}
+
+TEST_F(PictureLoading, AnIconStaysAnIcon) {
+    const String file = MakeFile("a.ico", test::ReadTestFile("images/ico-32.ico"));
+    for (const Ref<ole::Picture>& picture :
+         {LoadPicture2(file), LoadPictureFromFile(file), PictureFromFile(file, 2)}) {
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->Type(), ole::kPictureIcon);
+    }
+    EXPECT_EQ(LoaderOf(PictureFromFile(file, 1)), Loader::Gdiplus) << "there it is a bitmap";
 }
 
 TEST_F(PictureLoading, AFileThatIsNotThereGivesNothing) {
@@ -246,8 +264,8 @@ TEST_F(PictureLoading, TheNameDoesNotMatterToTheDigits) {
     EXPECT_EQ(LoaderOf(PictureFromFile(MakeFile("a.png", TgaFile()), 0x3)), Loader::Tga);
 }
 
-// The real kernel, where GDI+ can't be had.
-class KernelWithoutGdiplus : public kernel::Kernel {
+// A kernel that knows no module.
+class KernelWithoutModules : public kernel::Kernel {
 public:
     kernel::HMODULE GetModuleHandleA(const char*) override { return nullptr; }
     kernel::HMODULE LoadLibraryA(const char*) override { return nullptr; }
@@ -264,7 +282,7 @@ TEST_F(PictureLoading, WithoutGdiplusTheOtherLoadersServe) {
         gGdiplusModule = nullptr;
         kernel::SetKernel(kernel);
     };
-    KernelWithoutGdiplus kernel;
+    KernelWithoutModules kernel;
     forget(&kernel);
     const String bmp = MakeFile("a.bmp", BmpFile());
     EXPECT_EQ(GdipFileToHBitmap(bmp, 0), nullptr);

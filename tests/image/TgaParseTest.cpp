@@ -28,6 +28,7 @@ TEST(TgaParse, ABlockBelow18BytesIsTooShort) {
 TEST(TgaParse, ABlockThatIsNotThereIsUnreadable) {
     TgaRecord record;
     EXPECT_EQ(TgaParse(record, nullptr, 18), 1);
+    EXPECT_EQ(TgaParse(record, reinterpret_cast<void*>(16), 18), 1);
 }
 
 TEST(TgaParse, KnowsSixImageTypes) {
@@ -163,6 +164,7 @@ TEST(TgaHasFooter, MatchesTheSignatureAtTheEnd) {
         bytes[i] ^= 1;
     }
     EXPECT_FALSE(TgaHasFooter(nullptr, 100));
+    EXPECT_FALSE(TgaHasFooter(reinterpret_cast<void*>(16), 100));
     EXPECT_FALSE(TgaHasFooter(bytes.data(), -1));
 }
 

@@ -3,6 +3,7 @@
 #include "vxgui/frame/modGdiplus.h"
 #include "vxgui/image/modTGA.h"
 #include "vxgui/platform/core7.h"
+#include "vxgui/platform/gdi_images.h"
 
 namespace vxgui {
 namespace {
@@ -57,10 +58,13 @@ Ref<ole::Picture> OleMemoryToPicture(const void* address, int32_t size) {
 
 gdi::HGDIOBJ LoadPictureHandle(const String& filename, int16_t& picType, int32_t background) {
     const String ending = filename.Right(4).Lower();
-    // The drawing layer has no icons, so that an icon's file gives no handle.
-    const bool icon = ending == ".ico" || ending == ".cur";
-    picType = icon ? ole::kPictureIcon : ole::kPictureBitmap;
-    if (icon) return nullptr;
+    const bool cursor = ending == ".cur";
+    if (cursor || ending == ".ico") {
+        picType = ole::kPictureIcon;
+        return gdi::LoadImageA(nullptr, filename, cursor ? gdi::IMAGE_CURSOR : gdi::IMAGE_ICON, 0,
+                               0, gdi::LR_LOADFROMFILE | gdi::LR_CREATEDIBSECTION);
+    }
+    picType = ole::kPictureBitmap;
     return ending == ".tga" ? TgaFileToHBitmap(filename) : GdipFileToHBitmap(filename, background);
 }
 

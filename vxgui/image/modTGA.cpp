@@ -5,6 +5,7 @@
 
 #include "vxgui/base/LittleEndian.h"
 #include "vxgui/image/TgaExtension.h"
+#include "vxgui/platform/memory.h"
 
 namespace vxgui {
 namespace {
@@ -90,7 +91,7 @@ int32_t TgaParse(TgaRecord& record, const void* start, int32_t size) {
     record.start = static_cast<const uint8_t*>(start);
     record.size = size;
     if (size < kHeaderSize) return tga::kTooShort;
-    if (!start) return tga::kUnreadable;
+    if (kernel::IsBadReadPtr(start, static_cast<size_t>(size))) return tga::kUnreadable;
 
     ReadHeader(record.start, record.header);
     LookUpTgaFooter(record);
@@ -105,7 +106,8 @@ int32_t TgaParse(TgaRecord& record, const void* start, int32_t size) {
 
 bool TgaHasFooter(const void* start, int32_t size) {
     if (!start || size <= kLargestWithoutFooter) return false;
-    return IsSignature(static_cast<const uint8_t*>(start) + size - kSignature.size());
+    const uint8_t* end = static_cast<const uint8_t*>(start) + size - kSignature.size();
+    return !kernel::IsBadReadPtr(end, kSignature.size()) && IsSignature(end);
 }
 
 }  // namespace vxgui

@@ -8,7 +8,7 @@ namespace vxgui::gdiplus {
 
 extern "C" {
 
-/// Decodes a file or stream (BMP, GIF, JPEG, PNG, TIFF) by its signature, whatever its name: the
+/// Decodes a file or stream (BMP, GIF, ICO, JPEG, PNG, TIFF) by its signature, whatever its name: the
 /// first frame, to 32-bit pixels. As an image, a file that isn't there gives `FileNotFound` and
 /// one that is no picture `OutOfMemory`; as a bitmap, both give `InvalidParameter`.
 VXPLATFORM_API GpStatus GdipLoadImageFromFile(const WCHAR* filename, GpImage** image);

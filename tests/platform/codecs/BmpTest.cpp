@@ -104,6 +104,19 @@ TEST(BmpDecoder, AnIndexWithoutAColourIsBlack) {
     EXPECT_EQ(Decoded(bmp), (Pixels{0xFF112233, 0xFF445566, 0xFF000000, 0xFF000000}));
 }
 
+TEST(BmpDecoder, WithoutAPlacePixelsFollowThePalette) {
+    const Bmp bmp{.width = 2,
+                  .bits = 8,
+                  .palette = {0x112233, 0x445566},
+                  .pixels = {0, 1, 0, 0},
+                  .used = 2};
+    std::vector<uint8_t> bytes = BytesOf(bmp);
+    StoreLittle<uint32_t>(&bytes[10], 0);
+    const auto image = DecodeImage(bytes);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->pixels, (Pixels{0xFF112233, 0xFF445566}));
+}
+
 TEST(BmpDecoder, DepthAndCompressionMustFit) {
     const std::vector<uint8_t> pixels(64);
     for (const uint16_t bits : {0, 2, 3, 5, 12, 31, 48, 64}) {

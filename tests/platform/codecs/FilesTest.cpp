@@ -73,6 +73,11 @@ constexpr FileCase kFiles[] = {
     {"tiff-palette.tif", ImageFormat::Tiff, 0},
     {"tiff-grey-16.tif", ImageFormat::Tiff, 0},
     {"tiff-g4.tif", ImageFormat::Tiff, 0},
+    {"ico-32.ico", ImageFormat::Icon, 0},
+    {"ico-4.ico", ImageFormat::Icon, 0},
+    {"ico-8.ico", ImageFormat::Icon, 0},
+    {"ico-8-mask.ico", ImageFormat::Icon, 0},
+    {"ico-png.ico", ImageFormat::Icon, 0},
 };
 
 std::vector<uint8_t> FileBytes(const char* file) {

@@ -79,15 +79,21 @@ size_t MaskBytes(uint32_t headerSize, const BmpHeader& header) {
     return header.compression == BmpCompression::AlphaBitFields ? 16 : 12;
 }
 
-// `table` runs from the palette's place to the pixels.
-void ReadPalette(Bytes table, size_t entrySize, uint32_t used, BmpHeader* header) {
+// The palette at `table`, which ends where the pixels begin, or, when the file header names no
+// place for these, with as many colours as it says; the pixels follow it then. Answers where they
+// begin.
+size_t ReadPalette(Bytes bytes, size_t table, size_t entrySize, uint32_t used, size_t pixels,
+                   BmpHeader* header) {
+    if (header->bits > 8) return std::max(pixels, table);
     const size_t asked = used ? used : size_t{1} << header->bits;
-    const size_t count = std::min({asked, table.size() / entrySize, header->palette.size()});
+    const size_t room = ((pixels > table ? pixels : bytes.size()) - table) / entrySize;
+    const size_t count = std::min({asked, room, header->palette.size()});
     for (size_t i = 0; i < count; ++i) {
-        const uint8_t* entry = &table[i * entrySize];
+        const uint8_t* entry = &bytes[table + i * entrySize];
         header->palette[i] = 0xFF000000u | static_cast<uint32_t>(entry[2]) << 16 |
                              static_cast<uint32_t>(entry[1]) << 8 | entry[0];
     }
+    return pixels > table ? pixels : table + std::min(asked, room) * entrySize;
 }
 
 }  // namespace
@@ -112,12 +118,8 @@ std::optional<BmpHeader> ReadBmpHeader(Bytes bytes) {
     const size_t pixels = LoadLittle<uint32_t>(&bytes[10]);
     if (table > bytes.size() || pixels > bytes.size()) return std::nullopt;
     header.palette.fill(0xFF000000);
-    if (header.bits <= 8) {
-        const size_t end = pixels > table ? pixels : bytes.size();
-        ReadPalette(bytes.subspan(table, end - table), core ? 3 : 4, core ? 0 : fields.Dword(32),
-                    &header);
-    }
-    header.pixelOffset = std::max(pixels, table);
+    header.pixelOffset =
+        ReadPalette(bytes, table, core ? 3 : 4, core ? 0 : fields.Dword(32), pixels, &header);
     return header;
 }
 

@@ -2,6 +2,8 @@
 
 #include "vxgui/platform/codecs/BmpDecoder.h"
 #include "vxgui/platform/codecs/GifDecoder.h"
+#include "vxgui/platform/codecs/IcoDecoder.h"
+#include "vxgui/platform/codecs/IconFile.h"
 #include "vxgui/platform/codecs/JpegDecoder.h"
 #include "vxgui/platform/codecs/PngDecoder.h"
 #include "vxgui/platform/codecs/TiffDecoder.h"
@@ -15,11 +17,9 @@ struct Codec {
 };
 
 constexpr Codec kCodecs[] = {
-    {IsPng, OpenPng},
-    {IsJpeg, OpenJpeg},
-    {IsGif, OpenGif},
-    {IsTiff, OpenTiff},
-    {IsBmp, [](Bytes bytes) { return OpenBmp(bytes); }},
+    {IsPng, OpenPng},   {IsJpeg, OpenJpeg},
+    {IsGif, OpenGif},   {IsBmp, [](Bytes bytes) { return OpenBmp(bytes); }},
+    {IsTiff, OpenTiff}, {IsIcon, OpenIco},
 };
 
 }  // namespace

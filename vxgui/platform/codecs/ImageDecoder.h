@@ -13,7 +13,7 @@ namespace vxgui::codecs {
 
 using Bytes = std::span<const uint8_t>;
 
-enum class ImageFormat { Bmp, Gif, Jpeg, Png, Tiff };
+enum class ImageFormat { Bmp, Gif, Icon, Jpeg, Png, Tiff };
 
 struct ImageHeader {
     ImageFormat format;

@@ -4,6 +4,7 @@
 
 #include "vxgui/base/LittleEndian.h"
 #include "vxgui/platform/gdi_dib.h"
+#include "vxgui/platform/ole/IconPicture.h"
 
 namespace vxgui::ole {
 namespace {
@@ -11,16 +12,18 @@ namespace {
 constexpr int kHimetricPerInch = 2540;
 constexpr size_t kFileHeaderSize = 14;
 
-int32_t Himetric(int32_t pixels) { return gdi::MulDiv(pixels, kHimetricPerInch, gdi::ScreenDpi()); }
-
 }  // namespace
+
+int32_t HimetricFromPixels(int32_t pixels) {
+    return gdi::MulDiv(pixels, kHimetricPerInch, gdi::ScreenDpi());
+}
 
 BitmapPicture::BitmapPicture(gdi::HBITMAP bitmap, const gdi::BITMAP& record, bool own)
     : bitmap_(bitmap),
       record_(record),
       own_(own),
-      width_(Himetric(record.bmWidth)),
-      height_(Himetric(record.bmHeight)) {}
+      width_(HimetricFromPixels(record.bmWidth)),
+      height_(HimetricFromPixels(record.bmHeight)) {}
 
 BitmapPicture::~BitmapPicture() {
     if (own_) gdi::DeleteObject(bitmap_);
@@ -60,13 +63,29 @@ bool BitmapPicture::SaveAsFile(ByteArray* bytes) const {
     return read;
 }
 
-Ref<Picture> OleCreatePictureIndirect(gdi::HGDIOBJ handle, int16_t type, bool own) {
+namespace {
+
+Ref<Picture> PictureOfBitmap(gdi::HGDIOBJ handle, bool own) {
     gdi::BITMAP record{};
-    if (!handle || type != kPictureBitmap) return nullptr;
-    if (gdi::GetObjectA(handle, gdi::kBitmapRecordSize, &record) != gdi::kBitmapRecordSize) {
-        return nullptr;
-    }
+    const bool bitmap =
+        gdi::GetObjectA(handle, gdi::kBitmapRecordSize, &record) == gdi::kBitmapRecordSize;
+    if (!bitmap) return nullptr;
     return New<BitmapPicture>(static_cast<gdi::HBITMAP>(handle), record, own);
+}
+
+Ref<Picture> PictureOfIcon(gdi::HGDIOBJ handle, bool own) {
+    const auto icon = static_cast<gdi::HICON>(handle);
+    const IconParts parts(icon);
+    if (!parts) return nullptr;
+    return New<IconPicture>(icon, parts.Size(), own);
+}
+
+}  // namespace
+
+Ref<Picture> OleCreatePictureIndirect(gdi::HGDIOBJ handle, int16_t type, bool own) {
+    if (!handle) return nullptr;
+    if (type == kPictureBitmap) return PictureOfBitmap(handle, own);
+    return type == kPictureIcon ? PictureOfIcon(handle, own) : nullptr;
 }
 
 }  // namespace vxgui::ole

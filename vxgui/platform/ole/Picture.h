@@ -4,6 +4,9 @@
 
 namespace vxgui::ole {
 
+/// The extent of so many pixels, at the screen's resolution.
+int32_t HimetricFromPixels(int32_t pixels);
+
 /// A picture over a bitmap.
 class BitmapPicture final : public Picture {
 public:

@@ -2,8 +2,10 @@
 
 #include "vxgui/platform/codecs/BmpDecoder.h"
 #include "vxgui/platform/codecs/GifDecoder.h"
+#include "vxgui/platform/codecs/IconFile.h"
 #include "vxgui/platform/codecs/JpegDecoder.h"
 #include "vxgui/platform/core7.h"
+#include "vxgui/platform/gdi/IconLoading.h"
 #include "vxgui/platform/gdi_dib.h"
 #include "vxgui/platform/ole.h"
 
@@ -43,17 +45,23 @@ gdi::HBITMAP Dib24(std::unique_ptr<codecs::ImageDecoder> decoder) {
     return bitmap;
 }
 
-}  // namespace
-
-// A BMP with an alpha byte keeps it, in 32 bits; nothing else has one here.
-Ref<Picture> OleLoadPicture(const void* data, size_t size) {
-    if (!data) return nullptr;
-    auto decoder = OpenPicture({static_cast<const uint8_t*>(data), size});
+Ref<Picture> LoadBitmap(codecs::Bytes bytes) {
+    auto decoder = OpenPicture(bytes);
     if (!decoder) return nullptr;
+    // A BMP with an alpha byte keeps it, in 32 bits; nothing else has one here.
     const codecs::ImageHeader& header = decoder->Header();
     const bool keepsAlpha = header.format == codecs::ImageFormat::Bmp && header.hasAlpha;
     const gdi::HBITMAP bitmap = keepsAlpha ? Dib32(*decoder) : Dib24(std::move(decoder));
     return OleCreatePictureIndirect(bitmap, kPictureBitmap, true);
+}
+
+}  // namespace
+
+Ref<Picture> OleLoadPicture(const void* data, size_t size) {
+    if (!data) return nullptr;
+    const codecs::Bytes bytes(static_cast<const uint8_t*>(data), size);
+    if (!codecs::IsIcon(bytes) && !codecs::IsCursor(bytes)) return LoadBitmap(bytes);
+    return OleCreatePictureIndirect(gdi::IconOfFileBytes(data, size), kPictureIcon, true);
 }
 
 Ref<Picture> LoadPicture(const String& filename) {
