@@ -15,7 +15,7 @@ FOLDERS = {"base": 0, "pixels": 0, "frame": 2, "gdip": 3, "image": 4, "surface":
            "colour": 6, "theme": 7}
 # Rooms whose parts live on different floors.
 FILES = [(r"vxgui/frame/VxGuiGlobal", 8), (r"vxgui/colour/(GpColor|modColours|ColorHls)", 2),
-         (r"vxgui/text/(LFont|KeyedItems|ColorText|DefineSection)", 2), (r"vxgui/vxgui\.h", 8)]
+         (r"vxgui/text/(LFont|KeyedItems|ColorText|DefineSection|WideText)", 2), (r"vxgui/vxgui\.h", 8)]
 STANDARD = set("""algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits
 clocale cmath compare concepts condition_variable cstddef cstdint cstdio cstdlib cstring ctime deque exception
 filesystem forward_list fstream functional initializer_list iomanip ios iosfwd iostream istream iterator

@@ -133,25 +133,24 @@ private:
     bool before_;
 };
 
-/// A kernel that cannot load one module, with all stubs unbound so that they ask it.
-class MissingModule : public kernel::Kernel {
+/// The real kernel, with all stubs unbound so that they ask it; a test changes single answers.
+/// `ExitProcess` raises.
+class PassingKernel : public kernel::Kernel {
 public:
-    explicit MissingModule(std::string name) : name_(std::move(name)) {
+    PassingKernel() {
         UnbindAllStubs();
-        module_ = std::exchange(gMsImg32Module, nullptr);
         kernel::SetKernel(this);
     }
-    ~MissingModule() override {
+    ~PassingKernel() override {
         kernel::SetKernel(nullptr);
-        gMsImg32Module = module_;
         UnbindAllStubs();
     }
 
     kernel::HMODULE GetModuleHandleA(const char* name) override {
-        return name == name_ ? nullptr : kernel::RealKernel().GetModuleHandleA(name);
+        return kernel::RealKernel().GetModuleHandleA(name);
     }
     kernel::HMODULE LoadLibraryA(const char* name) override {
-        return name == name_ ? nullptr : kernel::RealKernel().LoadLibraryA(name);
+        return kernel::RealKernel().LoadLibraryA(name);
     }
     BOOL FreeLibrary(kernel::HMODULE module) override {
         return kernel::RealKernel().FreeLibrary(module);
@@ -162,6 +161,7 @@ public:
     String GetModuleFileNameA(kernel::HMODULE module) override {
         return kernel::RealKernel().GetModuleFileNameA(module);
     }
+    DWORD GetPlatformId() override { return kernel::RealKernel().GetPlatformId(); }
     int MessageBox(const String& text, const String&, UINT) override {
         messages.push_back(text);
         return kernel::IDOK;
@@ -171,6 +171,21 @@ public:
     }
 
     std::vector<String> messages;
+};
+
+/// A kernel that cannot load one module.
+class MissingModule : public PassingKernel {
+public:
+    explicit MissingModule(std::string name)
+        : name_(std::move(name)), module_(std::exchange(gMsImg32Module, nullptr)) {}
+    ~MissingModule() override { gMsImg32Module = module_; }
+
+    kernel::HMODULE GetModuleHandleA(const char* name) override {
+        return name == name_ ? nullptr : PassingKernel::GetModuleHandleA(name);
+    }
+    kernel::HMODULE LoadLibraryA(const char* name) override {
+        return name == name_ ? nullptr : PassingKernel::LoadLibraryA(name);
+    }
 
 private:
     std::string name_;

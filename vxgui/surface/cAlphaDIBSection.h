@@ -105,6 +105,11 @@ public:
     /// Premultiplied noise.
     virtual void RandomiseBits(bool bGray = false);
     virtual int32_t DrawEdge(uint32_t edge = 5, uint32_t grfFlags = 15);
+    /// Text in the font and text colour of the surface's context, as premultiplied pixels that
+    /// replace what lay under them. `dwFlags` are those of the platform's call, whose result it
+    /// answers; `Lenght` -1 is the whole text.
+    virtual int32_t DrawText(const String& Text, gdi::RECT& rc, uint32_t dwFlags,
+                             int32_t Lenght = -1);
 
     /// A view of the pixel memory, to read and write.
     virtual ARGBArray GetARGBArray();

@@ -7,6 +7,7 @@
 #include "vxgui/pixels/Blend.h"
 #include "vxgui/pixels/Premultiply.h"
 #include "vxgui/surface/DibInfo.h"
+#include "vxgui/surface/ScratchBitmap.h"
 #include "vxgui/surface/ScratchContext.h"
 
 namespace vxgui {
@@ -26,25 +27,6 @@ struct Blit {
     int32_t x, y, w, h;
     gdi::HDC source;
     int32_t sx, sy, sw, sh;
-};
-
-/// A 32-bit bitmap for the length of a scope.
-class ScratchBitmap {
-public:
-    ScratchBitmap(gdi::HDC dc, const gdi::BITMAPINFO& info)
-        : handle_(gdi::CreateDIBSection(dc, &info, gdi::DIB_RGB_COLORS, &bits_, nullptr, 0)) {}
-    ~ScratchBitmap() {
-        if (handle_) gdi::DeleteObject(handle_);
-    }
-    ScratchBitmap(const ScratchBitmap&) = delete;
-    ScratchBitmap& operator=(const ScratchBitmap&) = delete;
-
-    gdi::HBITMAP handle() const { return handle_; }
-    void* bits() const { return bits_; }
-
-private:
-    void* bits_ = nullptr;
-    gdi::HBITMAP handle_;
 };
 
 /// Reads the source into the bitmap that is selected in `scratch`. The stretch mode is that of a
