@@ -1,28 +1,20 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "tests/support/Errors.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/text/ActedDefineFile.h"
+#include "tests/theme/SkinPictures.h"
 #include "vxgui/theme/ThemeSetFile.h"
 
 namespace vxgui {
 namespace {
 
-// A picture of 12 x 4 pixels, 32 bits, of one colour; blue, green, red, alpha.
-void WriteTga(const std::string& path, std::array<uint8_t, 4> pixel) {
-    const uint8_t header[18] = {0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 12, 0, 4, 0, 32, 8};
-    std::ofstream file(path, std::ios::binary);
-    file.write(reinterpret_cast<const char*>(header), sizeof header);
-    for (int i = 0; i < 48; ++i) file.write(reinterpret_cast<const char*>(pixel.data()), 4);
-}
+using testing::ElementsAre;
 
 class ThemeDefine : public testing::Test {
 protected:
-    void SetUp() override {
-        std::filesystem::create_directories(folder);
-        WriteTga(folder + "/strip.tga", {200, 100, 50, 127});
-    }
+    ThemeDefine() { files.Write("strip.tga", test::TgaBytes({200, 100, 50, 127})); }
 
     Ref<ThemeSet> Load(const String& text) {
         const Ref<core7::DefineFile> file = core7::CreateDefineFile();
@@ -38,7 +30,8 @@ protected:
             ->Item("Theme_01");
     }
 
-    std::string folder = VXGUI_TEST_OUTPUT_DIR "/theme-define";
+    const test::TemporaryFolder files;
+    const String folder = files.Path();
     Ref<ThemeSet> set = New<ThemeSet>();
 };
 
@@ -261,6 +254,27 @@ TEST_F(ThemeDefine, MoreFontsThanStatesHaveTheNamesOfNumbers) {
     EXPECT_EQ(item->Fonts()->Count(), 2);
 }
 
+TEST_F(ThemeDefine, TheKeysAreReadInTheirOrderEachWithItsDefault) {
+    const Ref<test::ActedDefineFile> file = New<test::ActedDefineFile>();
+    file->values = {{"Image", "strip.tga"}, {"Frames", "7"}, {"GlyphImage", "strip.tga"}};
+    New<ThemeItem>()->FromThemeDefine(file, "S", set, folder);
+    EXPECT_THAT(file->reads,
+                ElementsAre("text Image ", "text ImageBackColor ", "integer PreMultiplyAlpha 0",
+                            "integer Frames 0", "integer FrameVert 0", "integer TransMode 2",
+                            "integer ImageAlpha 255", "text TransColor ", "text ImageMargin ",
+                            "text ImageTile ", "text GlyphImage ", "text GlyphBackColor ",
+                            "integer GlyphPreMultiplyAlpha 0", "integer GlyphFrames 7",
+                            "integer GlyphFrameVert 0", "integer GlyphTransMode 2",
+                            "integer GlyphAlpha 255", "text GlyphTransColor ", "text GlyphMargin ",
+                            "integer GlyphAlign ", "text ContentMargin ", "text FrameOrder ",
+                            "text GlyphFrameOrder ", "text Fonts ", "text TextStyles "));
+}
+
+TEST_F(ThemeDefine, NoFileRaisesObjectNotSet) {
+    const auto read = [&] { New<ThemeItem>()->FromThemeDefine(nullptr, "S", set, folder); };
+    EXPECT_EQ(test::RaisedBy(read), 91);
+}
+
 TEST_F(ThemeDefine, ReadingAgainReplacesTheStatesCollections) {
     const Ref<core7::DefineFile> file = core7::CreateDefineFile();
     file->LoadText("[Theme_01]\nContentMargin=1,1,1,1\n");
@@ -273,8 +287,9 @@ TEST_F(ThemeDefine, ReadingAgainReplacesTheStatesCollections) {
 }
 
 TEST_F(ThemeDefine, AFileIsLoadedWithThePicturesBesideIt) {
-    std::ofstream(folder + "/one.theme") << "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=strip.tga\n";
-    EXPECT_NE(LoadThemeSetFile(folder + "/one.theme")->Item("Theme_01")->Image(), nullptr);
+    const String path =
+        files.Write("one.theme", "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=strip.tga\n");
+    EXPECT_NE(LoadThemeSetFile(path)->Item("Theme_01")->Image(), nullptr);
 }
 
 TEST_F(ThemeDefine, AFileThatIsWrongIsNamedWithItsLine) {
@@ -284,15 +299,15 @@ TEST_F(ThemeDefine, AFileThatIsWrongIsNamedWithItsLine) {
     } cases[] = {{"[ThemeSet]\nThemes=1\n[Theme_01]\nContentMargin=1\n", "/bad.theme:3:2"},
                  {"[ThemeSet]\nnonsense\n", "/bad.theme:2:1"}};
     for (const auto& c : cases) {
-        std::ofstream(folder + "/bad.theme") << c.text;
+        const String path = files.Write("bad.theme", c.text);
         try {
-            LoadThemeSetFile(folder + "/bad.theme");
+            LoadThemeSetFile(path);
             FAIL() << c.text;
         } catch (const Error& error) {
-            EXPECT_EQ(error.Source().Utf8(), folder + c.place);
+            EXPECT_EQ(error.Source(), folder + c.place);
         }
     }
-    EXPECT_THROW(LoadThemeSetFile(folder + "/nowhere.theme"), Error);
+    EXPECT_THROW(LoadThemeSetFile(files.Path("nowhere.theme")), Error);
 }
 
 }  // namespace

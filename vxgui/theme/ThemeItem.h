@@ -267,8 +267,8 @@ private:
     void PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t xS,
                          int32_t yS, int32_t wS, int32_t hS);
     void PaintIconSurface(gdi::HDC hDC, cAlphaDIBSection& icon, Span x, Span y) const;
-    void ReadImage(core7::DefineFile& file, const String& section, const String& basePath);
-    void ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath);
+    void ReadImage(const DefineSection& read, const String& basePath);
+    void ReadGlyph(const DefineSection& read, const String& basePath);
     void ReadUisImage(const DefineSection& read, const UisSource& source, const String& fallback);
     void ReadUisGlyph(const DefineSection& read, const UisSource& source);
     void ReadUisSlices(const DefineSection& read);

@@ -3,26 +3,17 @@
 #include "vxgui/base/NumberText.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/text/ColorText.h"
+#include "vxgui/text/DefineSection.h"
 #include "vxgui/theme/ThemeItem.h"
 #include "vxgui/theme/ThemeSet.h"
 
 namespace vxgui {
 namespace {
 
-// The section that is being read, with the two kinds of read that it is made of.
-struct SectionReader {
-    core7::DefineFile& file;
-    const String& section;
-
-    String Text(const char* key) const { return file.GetString(section, key, ""); }
-    int32_t Integer(const char* key, const String& fallback) const {
-        return file.GetInteger(section, key, fallback);
-    }
-    int32_t Colour(const char* key) const {
-        String text = Text(key);
-        return ParseColorText(text);
-    }
-};
+int32_t ColourOf(const DefineSection& read, const char* key) {
+    String text = read.Text(key);
+    return ParseColorText(text);
+}
 
 // The numbers of a list. It must have at least `Count` parts; more are ignored.
 template <size_t Count>
@@ -36,7 +27,7 @@ std::array<int32_t, Count> ListOf(const String& list) {
 }
 
 template <class Set>
-void MarginFrom(const SectionReader& read, const char* key, Set set) {
+void MarginFrom(const DefineSection& read, const char* key, Set set) {
     const String list = read.Text(key);
     if (list.empty()) return;
     const auto [left, top, right, bottom] = ListOf<4>(list);
@@ -74,19 +65,18 @@ void Share(const String& list, const char* prefix, const Ref<Pool>& pool, const 
 
 }  // namespace
 
-void ThemeItem::ReadImage(core7::DefineFile& file, const String& section, const String& basePath) {
-    const SectionReader read{file, section};
+void ThemeItem::ReadImage(const DefineSection& read, const String& basePath) {
     const String name = read.Text("Image");
     if (name.empty()) return;
-    const Ref<cAlphaDIBSection> surface = Load(basePath, name, read.Colour("ImageBackColor"));
+    const Ref<cAlphaDIBSection> surface = Load(basePath, name, ColourOf(read, "ImageBackColor"));
     if (!surface) return;
-    if (read.Integer("PreMultiplyAlpha", "0") != 0) surface->PreMultiplyAlpha();
+    if (read.Integer("PreMultiplyAlpha") != 0) surface->PreMultiplyAlpha();
     image_ = surface;
-    frameCount_ = read.Integer("Frames", "0");
-    FrameVert(read.Integer("FrameVert", "0"));
+    frameCount_ = read.Integer("Frames");
+    FrameVert(read.Integer("FrameVert"));
     TransMode(read.Integer("TransMode", "2"));
     imageAlpha_ = static_cast<uint8_t>(read.Integer("ImageAlpha", "255"));
-    if (!read.Text("TransColor").empty()) image_->TransparentColor(read.Colour("TransColor"));
+    if (!read.Text("TransColor").empty()) image_->TransparentColor(ColourOf(read, "TransColor"));
     MarginFrom(read, "ImageMargin", [&](auto... sides) { SetImageMargin(sides...); });
     if (const String list = read.Text("ImageTile"); !list.empty()) {
         const auto [tile, left, top, right, bottom] = ListOf<5>(list);
@@ -94,20 +84,19 @@ void ThemeItem::ReadImage(core7::DefineFile& file, const String& section, const 
     }
 }
 
-void ThemeItem::ReadGlyph(core7::DefineFile& file, const String& section, const String& basePath) {
-    const SectionReader read{file, section};
+void ThemeItem::ReadGlyph(const DefineSection& read, const String& basePath) {
     const String name = read.Text("GlyphImage");
     if (name.empty()) return;
-    const Ref<cAlphaDIBSection> surface = Load(basePath, name, read.Colour("GlyphBackColor"));
+    const Ref<cAlphaDIBSection> surface = Load(basePath, name, ColourOf(read, "GlyphBackColor"));
     if (!surface) return;
-    if (read.Integer("GlyphPreMultiplyAlpha", "0") != 0) surface->PreMultiplyAlpha();
+    if (read.Integer("GlyphPreMultiplyAlpha") != 0) surface->PreMultiplyAlpha();
     glyph_ = surface;
     glyphFrameCount_ = read.Integer("GlyphFrames", String::FromInt(frameCount_));
-    GlyphFrameVert(read.Integer("GlyphFrameVert", "0"));
+    GlyphFrameVert(read.Integer("GlyphFrameVert"));
     GlyphTransMode(read.Integer("GlyphTransMode", "2"));
     glyphAlpha_ = static_cast<uint8_t>(read.Integer("GlyphAlpha", "255"));
     if (!read.Text("GlyphTransColor").empty()) {
-        glyph_->TransparentColor(read.Colour("GlyphTransColor"));
+        glyph_->TransparentColor(ColourOf(read, "GlyphTransColor"));
     }
     MarginFrom(read, "GlyphMargin", [&](auto... sides) { SetGlyphMargin(sides...); });
     glyphAlign_ = read.Integer("GlyphAlign", "");
@@ -115,9 +104,9 @@ void ThemeItem::ReadGlyph(core7::DefineFile& file, const String& section, const 
 
 void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const String& Section,
                                 const Ref<ThemeSet>& Set, const String& BasePath) {
-    ReadImage(*DefineFile, Section, BasePath);
-    ReadGlyph(*DefineFile, Section, BasePath);
-    const SectionReader read{*DefineFile, Section};
+    const DefineSection read(DefineFile, Section, "ThemeItem");
+    ReadImage(read, BasePath);
+    ReadGlyph(read, BasePath);
     MarginFrom(read, "ContentMargin", [&](auto... sides) { SetContentMargin(sides...); });
     // Here the keys hold lists of frames, one for each state.
     if (const String list = read.Text("FrameOrder"); !list.empty()) StateFrames(PartsOf(list));
