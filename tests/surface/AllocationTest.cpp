@@ -1,27 +1,7 @@
-#include <cstdlib>
-#include <new>
+#include <gtest/gtest.h>
 
+#include "tests/support/CountedAllocations.h"
 #include "tests/surface/SurfaceSupport.h"
-
-namespace {
-
-std::atomic<int> gAllocations{0};
-
-void* CountedAllocation(size_t size) {
-    ++gAllocations;
-    if (void* block = std::malloc(size ? size : 1)) return block;
-    throw std::bad_alloc();
-}
-
-}  // namespace
-
-// The whole program's, so that allocations anywhere below a paint operation are seen.
-void* operator new(size_t size) { return CountedAllocation(size); }
-void* operator new[](size_t size) { return CountedAllocation(size); }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete[](void* block) noexcept { std::free(block); }
-void operator delete(void* block, size_t) noexcept { std::free(block); }
-void operator delete[](void* block, size_t) noexcept { std::free(block); }
 
 namespace vxgui::test {
 namespace {
