@@ -52,8 +52,9 @@ TEST(ToolHelp, ShowsTheCommandsAndExamples) {
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.out, HasSubstr("gallery"));
     EXPECT_THAT(result.out, HasSubstr("render"));
+    EXPECT_THAT(result.out, HasSubstr("unpack"));
     EXPECT_THAT(result.out, HasSubstr("Examples:"));
-    for (const char* command : {"gallery", "render"}) {
+    for (const char* command : {"gallery", "render", "pack", "unpack"}) {
         const Result help = Call({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr("Example:"));

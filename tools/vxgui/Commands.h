@@ -10,6 +10,8 @@ namespace vxgui::tool {
 
 // Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`.
 void AddGallery(CLI::App& app, std::ostream& out);
+void AddPack(CLI::App& app, std::ostream& out);
 void AddRender(CLI::App& app, std::ostream& out);
+void AddUnpack(CLI::App& app, std::ostream& out);
 
 }  // namespace vxgui::tool

@@ -14,6 +14,7 @@ constexpr const char* kExamples =
     "  vxgui gallery skins/aurora/aurora.theme -o gallery.png\n"
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
+    "  vxgui pack styles -o DefaultStyles.dll\n"
     "\n"
     "Exit status: 0 when all is well, 1 for an error in a file, 2 for a wrong command line.";
 
@@ -48,6 +49,8 @@ int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream&
     app.require_subcommand(1);
     AddGallery(app, out);
     AddRender(app, out);
+    AddPack(app, out);
+    AddUnpack(app, out);
     return Parse(app, std::move(arguments), out, errors);
 }
 

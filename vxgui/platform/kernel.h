@@ -96,6 +96,8 @@ struct ModuleResource {
 };
 /// The resources of a module file, in the order of its directories and once for all languages.
 VXPLATFORM_API std::vector<ModuleResource> ModuleResources(HMODULE module);
+/// The same for the bytes of a file that isn't loaded; the blocks lie in them.
+VXPLATFORM_API std::vector<ModuleResource> ResourcesOfFile(ResourceBlock file);
 /// The file of a module that holds resources and no code, for 32-bit processes or for 64-bit
 /// ones. Types and names are stored in capitals, as loaders look for them. Raises error 5 for
 /// what is no name and for more than 1 GiB, error 457 for a name that stands twice.

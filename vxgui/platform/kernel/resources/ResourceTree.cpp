@@ -105,7 +105,10 @@ ResourceBlock FindModuleResource(HMODULE module, const String& type, const Strin
 }
 
 std::vector<ModuleResource> ModuleResources(HMODULE module) {
-    const ResourceBlock file = ModuleFileBytes(module);
+    return ResourcesOfFile(ModuleFileBytes(module));
+}
+
+std::vector<ModuleResource> ResourcesOfFile(ResourceBlock file) {
     return ResourceTree(ByteSpan(file.data, file.size)).All();
 }
 
