@@ -1,13 +1,11 @@
-#include "tools/vxgui/Tool.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "tests/support/Golden.h"
+#include "tests/tools/ToolCall.h"
 
 namespace vxgui::tool {
 namespace {
@@ -15,29 +13,13 @@ namespace {
 using testing::HasSubstr;
 
 const std::string kSkin = VXGUI_SOURCE_DIR "/skins/aurora/aurora.theme";
-const std::string kFolder = VXGUI_TEST_OUTPUT_DIR "/tool/";
-
-struct Result {
-    int status;
-    std::string out;
-    std::string errors;
-};
-
-Result Call(std::vector<std::string> arguments) {
-    std::ostringstream out, errors;
-    const int status = RunTool(std::move(arguments), out, errors);
-    return {status, out.str(), errors.str()};
-}
-
 std::string WriteSkin(const std::string& name, const std::string& text) {
-    std::filesystem::create_directories(kFolder);
-    std::ofstream(kFolder + name, std::ios::binary) << text;
-    return kFolder + name;
+    std::ofstream(Folder() + name, std::ios::binary) << text;
+    return Folder() + name;
 }
 
 test::TestPicture Rendered(const std::string& item, std::vector<std::string> more) {
-    std::filesystem::create_directories(kFolder);
-    const std::string path = kFolder + item + ".png";
+    const std::string path = Folder() + item + ".png";
     std::vector<std::string> arguments{"render", kSkin, "--item", item, "-o", path};
     arguments.insert(arguments.end(), more.begin(), more.end());
     const Result result = Call(arguments);
@@ -54,10 +36,11 @@ TEST(ToolHelp, ShowsTheCommandsAndExamples) {
     EXPECT_THAT(result.out, HasSubstr("render"));
     EXPECT_THAT(result.out, HasSubstr("unpack"));
     EXPECT_THAT(result.out, HasSubstr("Examples:"));
-    for (const char* command : {"gallery", "render", "pack", "unpack"}) {
+    for (const char* command :
+         {"gallery", "render", "pack", "unpack", "convert", "adjust", "info"}) {
         const Result help = Call({command, "--help"});
         EXPECT_EQ(help.status, 0);
-        EXPECT_THAT(help.out, HasSubstr("Example:"));
+        EXPECT_THAT(help.out, HasSubstr("Example"));
     }
 }
 
@@ -67,13 +50,13 @@ TEST(ToolCommandLine, WrongOnesGiveStatusTwo) {
         {"dance"},
         {"gallery"},
         {"gallery", kSkin},
-        {"gallery", kSkin, "-o", kFolder + "x.png", "--more"},
-        {"render", kSkin, "-o", kFolder + "x.png"},
-        {"render", kSkin, "--item", "Tab", "--state", "Asleep", "-o", kFolder + "x.png"},
-        {"render", kSkin, "--item", "Tab", "--size", "0x5", "-o", kFolder + "x.png"},
-        {"render", kSkin, "--item", "Tab", "--size", "12", "-o", kFolder + "x.png"},
-        {"render", kSkin, "--item", "Tab", "--size", "12x4z", "-o", kFolder + "x.png"},
-        {"render", kSkin, "--item", "Tab", "--frame", "two", "-o", kFolder + "x.png"},
+        {"gallery", kSkin, "-o", Folder() + "x.png", "--more"},
+        {"render", kSkin, "-o", Folder() + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--state", "Asleep", "-o", Folder() + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "0x5", "-o", Folder() + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "12", "-o", Folder() + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--size", "12x4z", "-o", Folder() + "x.png"},
+        {"render", kSkin, "--item", "Tab", "--frame", "two", "-o", Folder() + "x.png"},
     };
     for (const auto& arguments : wrong) {
         const Result result = Call(arguments);
@@ -83,21 +66,21 @@ TEST(ToolCommandLine, WrongOnesGiveStatusTwo) {
 }
 
 TEST(ToolErrors, AMissingSkinIsNamed) {
-    const Result result = Call({"gallery", "/nowhere/x.theme", "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", "/nowhere/x.theme", "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.theme"));
 }
 
 TEST(ToolErrors, AFileWithoutSectionsIsNoSkin) {
     const std::string path = WriteSkin("plain.theme", "; nothing here\n");
-    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":1:1: error: no section [ThemeSet]"));
 }
 
 TEST(ToolErrors, ABinaryFileIsNoSkin) {
     const Result result =
-        Call({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/button.tga", "-o", kFolder + "x.png"});
+        Call({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/button.tga", "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("button.tga"));
 }
@@ -106,7 +89,7 @@ TEST(ToolErrors, EachMissingImageIsNamedWithItsLine) {
     const std::string path = WriteSkin("missing.theme",
                                        "[ThemeSet]\nThemes=2\n[Theme_01]\nFrames=1\nImage=a.png\n["
                                        "Theme_02]\n  GlyphImage=b.bmp\n");
-    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":5:1: error: image \"a.png\" is not there"));
     EXPECT_THAT(result.errors, HasSubstr(path + ":7:3: error: image \"b.bmp\" is not there"));
@@ -116,7 +99,7 @@ TEST(ToolErrors, ABrokenImageIsToldFromAMissingOne) {
     WriteSkin("broken.png", "\x89PNG\r\n\x1a\nnonsense");
     const std::string path =
         WriteSkin("broken.theme", "[ThemeSet]\nThemes=1\n[Theme_01]\nImage=broken.png\n");
-    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":4:1: error: image \"broken.png\" is no picture"));
 }
@@ -124,14 +107,14 @@ TEST(ToolErrors, ABrokenImageIsToldFromAMissingOne) {
 TEST(ToolErrors, AListThatIsTooShortIsNamedWithItsSection) {
     const std::string path =
         WriteSkin("short.theme", "[ThemeSet]\nThemes=1\n\n[Theme_01]\nContentMargin=1,2\n");
-    const Result result = Call({"gallery", path, "-o", kFolder + "x.png"});
+    const Result result = Call({"gallery", path, "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr(path + ":4:"));
     EXPECT_THAT(result.errors, HasSubstr("1,2"));
 }
 
 TEST(ToolErrors, AnUnknownItemListsTheNames) {
-    const Result result = Call({"render", kSkin, "--item", "Nothing", "-o", kFolder + "x.png"});
+    const Result result = Call({"render", kSkin, "--item", "Nothing", "-o", Folder() + "x.png"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("PushButton"));
 }
@@ -139,7 +122,7 @@ TEST(ToolErrors, AnUnknownItemListsTheNames) {
 TEST(ToolErrors, SizesThatCantBeAreRefused) {
     for (const char* size : {"100000x100000", "32768x1", "32767x32767"}) {
         const Result result =
-            Call({"render", kSkin, "--item", "Tab", "--size", size, "-o", kFolder + "x.png"});
+            Call({"render", kSkin, "--item", "Tab", "--size", size, "-o", Folder() + "x.png"});
         EXPECT_EQ(result.status, 1) << size;
         EXPECT_THAT(result.errors, HasSubstr("can't be made"));
     }
@@ -172,8 +155,7 @@ TEST(ToolRender, TakesSectionsNamesAndFrames) {
 }
 
 TEST(ToolGallery, ThePictureOfTheSampleSkinIsAsItWas) {
-    const std::string path = kFolder + "gallery.png";
-    std::filesystem::create_directories(kFolder);
+    const std::string path = Folder() + "gallery.png";
     const Result result = Call({"gallery", kSkin, "-o", path});
     ASSERT_EQ(result.status, 0) << result.errors;
     test::TestPicture picture;

@@ -8,8 +8,12 @@ class App;
 
 namespace vxgui::tool {
 
-// Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`.
+// Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`;
+// how far it has got goes to `progress`, as long as that is a terminal.
+void AddAdjust(CLI::App& app, std::ostream& out, std::ostream& progress);
+void AddConvert(CLI::App& app, std::ostream& out, std::ostream& progress);
 void AddGallery(CLI::App& app, std::ostream& out);
+void AddInfo(CLI::App& app, std::ostream& out);
 void AddPack(CLI::App& app, std::ostream& out);
 void AddRender(CLI::App& app, std::ostream& out);
 void AddUnpack(CLI::App& app, std::ostream& out);

@@ -15,6 +15,9 @@ constexpr const char* kExamples =
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
     "  vxgui pack styles -o DefaultStyles.dll\n"
+    "  vxgui convert skins/aurora/button.tga -o button.png\n"
+    "  vxgui adjust skins/aurora/*.tga -o tinted --to tga --hue 140\n"
+    "  vxgui info skins/aurora/button.tga\n"
     "\n"
     "Exit status: 0 when all is well, 1 for an error in a file, 2 for a wrong command line.";
 
@@ -44,10 +47,13 @@ int Parse(CLI::App& app, std::vector<std::string> arguments, std::ostream& out,
 }  // namespace
 
 int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
-    CLI::App app("Paints and checks skins.", "vxgui");
+    CLI::App app("Paints and checks skins, and converts their pictures.", "vxgui");
     app.footer(kExamples);
     app.require_subcommand(1);
+    AddAdjust(app, out, errors);
+    AddConvert(app, out, errors);
     AddGallery(app, out);
+    AddInfo(app, out);
     AddRender(app, out);
     AddPack(app, out);
     AddUnpack(app, out);

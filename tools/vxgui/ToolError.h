@@ -12,6 +12,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+[[noreturn]] inline void Fail(const std::string& path, const std::string& text) {
+    throw ToolError(path + ": error: " + text);
+}
+
 /// A command line that can't be carried out.
 class UsageError : public std::runtime_error {
 public:
