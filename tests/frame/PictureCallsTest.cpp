@@ -102,6 +102,7 @@ TEST_F(PictureCalls, GetNoBytesOfWhatHasNone) {
 }
 
 TEST_F(PictureCalls, ReportAPictureThatCannotBeSaved) {
+    Global();  // sets the apartment up with the real companions
     kernel::SetKernel(&kernel_);
     kernel::SetLastError(0);
     ByteArray bytes = {1, 2, 3};

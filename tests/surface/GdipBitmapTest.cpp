@@ -1,3 +1,4 @@
+#include "tests/support/GdiplusSession.h"
 #include "tests/support/Golden.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/surface/SurfaceSupport.h"
@@ -29,6 +30,7 @@ protected:
     gdiplus::GpBitmap* bitmap = nullptr;
 
 private:
+    const GdiplusSession session_;
     TemporaryFolder folder_;
 };
 

@@ -341,11 +341,12 @@ TEST_F(UisItem, TakesItsPicturesFromAModule) {
 // Failures.
 
 TEST(UisFailure, IsShownAndAnsweredWithFalse) {
+    const Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();  // sets the apartment up
     ActedKernel acted;
     kernel::Kernel* before = kernel::SetKernel(&acted);
     kernel::SetLastError(0);
     const Ref<ThemeItem> item = New<ThemeItem>();
-    item->Image(New<cAlphaDIBSection>());
+    item->Image(surface);
     EXPECT_FALSE(item->FromUis(nullptr, "folder", "Item", ""));
     kernel::SetKernel(before);
     EXPECT_EQ(item->Image(), nullptr);

@@ -114,7 +114,7 @@ TEST(DeleteObject, OfASelectedBitmapTakesEffectWhenItIsDeselected) {
 }
 
 TEST(DeleteObject, OfASelectedObjectTakesEffectWithItsContextToo) {
-    GetStockObject(WHITE_BRUSH);  // the stock objects are entered with the first that is asked for
+    DeleteDC(CreateCompatibleDC(nullptr));  // enters the stock objects that a fresh context has
     const size_t before = HandleTable::LiveCount();
     HDC dc = CreateCompatibleDC(nullptr);
     HBITMAP bitmap = Plain32();

@@ -90,7 +90,7 @@ struct DropsLate {
 };
 
 TEST(PixelBlocks, ABitmapMayBeDroppedWhenItsThreadHasEnded) {
-    GetStockObject(WHITE_BRUSH);  // the stock objects are entered with the first that is asked for
+    DeleteDC(CreateCompatibleDC(nullptr));  // enters the stock objects that a fresh context has
     const size_t before = HandleTable::LiveCount();
     std::thread([] {
         // Made before the thread's store, so that it goes after it.
