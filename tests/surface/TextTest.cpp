@@ -15,8 +15,8 @@ SeenText seen;
 
 /// In place of glyphs: one pixel of each of three coverages, at the rectangle's corner.
 int DrawThreePixels(gdi::HDC dc, char16_t* text, int count, gdi::RECT* rect, UINT flags) {
-    seen = {std::u16string(text, text + count), count, *rect, flags,
-            gdi::GetCurrentObject(dc, gdi::OBJ_FONT)};
+    seen = {count < 0 ? std::u16string(text) : std::u16string(text, text + count), count, *rect,
+            flags, gdi::GetCurrentObject(dc, gdi::OBJ_FONT)};
     const COLORREF white = gdi::GetTextColor(dc);
     gdi::SetPixel(dc, rect->left, rect->top, white);
     gdi::SetPixel(dc, rect->left + 1, rect->top, white & gdi::RGB(128, 128, 128));

@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
-
-#include "tests/support/ActedKernel.h"
+#include "tests/text/WideKernel.h"
 
 namespace vxgui {
 namespace {
@@ -19,45 +17,9 @@ struct SeenCall {
 SeenCall seen;
 
 int ActedDrawTextW(gdi::HDC, char16_t* text, int count, gdi::RECT* rect, UINT flags) {
-    seen = {std::u16string(text, text + count), count, flags};
+    seen = {count < 0 ? std::u16string(text) : std::u16string(text, text + count), count, flags};
     rect->right = 77;
     return 33;
-}
-
-/// The real kernel, but for the two modules of the wide calls and the family of the platform.
-class WideKernel : public ActedKernel {
-public:
-    explicit WideKernel(DWORD family) : family_(family) {}
-    DWORD GetPlatformId() override { return family_; }
-    kernel::HMODULE GetModuleHandleA(const char* name) override {
-        return Of(name, ActedKernel::GetModuleHandleA(name));
-    }
-    kernel::HMODULE LoadLibraryA(const char* name) override {
-        return Of(name, ActedKernel::LoadLibraryA(name));
-    }
-    kernel::FARPROC GetProcAddress(kernel::HMODULE module, const char* name) override {
-        return module == helper_ ? kernel::RealKernel().GetProcAddress(module, name)
-                                 : ActedKernel::GetProcAddress(module, name);
-    }
-
-private:
-    kernel::HMODULE Of(const std::string& name, kernel::HMODULE acted) {
-        if (name != "VxCoreHlp.dll") return acted;
-        helper_ = kernel::RealKernel().LoadLibraryA(name.c_str());
-        return helper_;
-    }
-    DWORD family_;
-    kernel::HMODULE helper_ = nullptr;
-};
-
-/// Each test has a thread of its own, as the platform's family is read once a thread.
-template <class Body>
-void OnFreshThread(WideKernel& acted, Body body) {
-    kernel::SetKernel(&acted);
-    UnbindAllStubs();
-    std::thread(body).join();
-    UnbindAllStubs();
-    kernel::SetKernel(nullptr);
 }
 
 TEST(WideText, IsBoundToTheNamedLibraries) {
@@ -68,6 +30,7 @@ TEST(WideText, IsBoundToTheNamedLibraries) {
         EXPECT_EQ(DrawTextWide(nullptr, "ab", -1, rect, 5), 33);
         EXPECT_EQ(rect.right, 77);
         EXPECT_EQ(seen.text, u"ab");
+        EXPECT_EQ(seen.count, -1);
         EXPECT_EQ(seen.flags, 5u);
     });
 }
@@ -82,8 +45,7 @@ TEST(WideText, WithoutWideFunctionsAsksTheCompanionWhateverTheLibrary) {
         EXPECT_EQ(seen.text, u"a");
         // The library is loaded once.
         ExtTextOutWide(nullptr, 0, 0, 0, rect, "x", 1);
-        EXPECT_EQ(std::count(acted.calls.begin(), acted.calls.end(), "load unicows.dll"),
-                  1);
+        EXPECT_EQ(std::count(acted.calls.begin(), acted.calls.end(), "load unicows.dll"), 1);
     });
 }
 

@@ -37,6 +37,7 @@ void MakeAlphaShadow2(void* Bits, int32_t W, int32_t H, int32_t ShadowX, int32_t
 }
 
 void MaskFromBits(Coverage& Mask, const void* Bits, int32_t W, int32_t H) {
+    Mask = {};
     if (W < 1 || H < 1 || kernel::IsBadReadPtr(Bits, size_t(W) * H * sizeof(ARGB))) return;
     Mask = CoverageOfBlue({static_cast<const ARGB*>(Bits), size_t(W) * H}, W, H);
 }

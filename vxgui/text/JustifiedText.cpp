@@ -4,6 +4,7 @@
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/text/ScratchText.h"
+#include "vxgui/text/TabbedWidths.h"
 #include "vxgui/text/WideText.h"
 
 namespace vxgui {
@@ -16,7 +17,13 @@ class LineBreaker {
 public:
     LineBreaker(gdi::HDC dc, const String& text, int32_t count, const gdi::RECT& rect,
                 int32_t align)
-        : dc_(dc), text_(text.view()), count_(count), rect_(rect), align_(align), y_(rect.top) {
+        : dc_(dc),
+          text_(text.view()),
+          count_(count),
+          rect_(rect),
+          align_(align),
+          y_(rect.top),
+          widths_(dc, text.view()) {
         gdi::TEXTMETRICA metrics{};
         gdi::GetTextMetricsA(dc, &metrics);
         lineHeight_ = metrics.tmHeight;
@@ -48,39 +55,37 @@ private:
         const auto start = std::min<size_t>(static_cast<size_t>(lineStart_), text_.size());
         return text_.substr(start, static_cast<size_t>(std::max(end - lineStart_, 0)));
     }
-    int32_t WidthTo(int32_t end) const {
-        return static_cast<int16_t>(GetTabbedTextExtentWide(dc_, Line(end)) & 0xFFFF);
-    }
 
-    void Count(int32_t i) {
+    void Count(int32_t i, int32_t width) {
         lastBreak_ = i;
+        lastWidth_ = width;
         ++breaks_;
     }
 
     // Takes the character at i into account; true when a line ends with it.
     bool EndsLine(int32_t i, char16_t c) {
-        if (c == u'\t' || IsBreak(c)) {
-            const bool fits = WidthTo(i) <= WidthOf(rect_);
-            if (fits) Count(i);
-            if (!fits) spreading_ = true;
-            return !fits;
-        }
-        if (c != 0 && c != 10 && c != 13 && i != count_) return false;
-        Count(i);
+        const bool breaks = c == u'\t' || IsBreak(c);
+        const bool ends = !breaks && (c == 0 || c == 10 || c == 13 || i == count_);
+        if (!breaks && !ends) return false;
+        const int32_t width = widths_.To(static_cast<size_t>(i));
+        if (breaks && width > WidthOf(rect_)) return spreading_ = true;
+        Count(i, width);
         // The end of the text counts as a line that was too long, on purpose.
-        if (c == 0 || (c != 10 && c != 13)) spreading_ = true;
-        return true;
+        if (ends && c != 10 && c != 13) spreading_ = true;
+        return ends;
     }
 
     void Flush(char16_t c) {
-        const int32_t extra = WrapSub(WidthOf(rect_), WidthTo(lastBreak_));
+        const int32_t extra = WrapSub(WidthOf(rect_), lastWidth_);
         const bool spread = align_ == kSpread && spreading_;
         if (spread) gdi::SetTextJustification(dc_, extra, breaks_);
         TabbedTextOutWide(dc_, x_, y_, Line(lastBreak_), rect_.left);
         if (spread) gdi::SetTextJustification(dc_, 0, 0);
         y_ = WrapAdd(y_, lineHeight_);
         lineStart_ = NextLine(c);
+        widths_.Start(std::min(static_cast<size_t>(lineStart_), text_.size()));
         lastBreak_ = lineStart_;
+        lastWidth_ = 0;
         breaks_ = 0;
     }
 
@@ -103,8 +108,10 @@ private:
     char16_t breakChar_ = 0;
     int32_t lineStart_ = 0;
     int32_t lastBreak_ = 0;
+    int32_t lastWidth_ = 0;  ///< of the line up to there
     int32_t breaks_ = -1;
     bool spreading_ = false;
+    TabbedWidths widths_;
 };
 
 }  // namespace

@@ -110,7 +110,8 @@ void PaintGlow(gdi::HDC hDC, const gdi::RECT& rect, const String& text, const Ar
     gdi::SetTextColor(dc, kWhite);
     gdi::SetBkColor(dc, 0);
     gdi::SetBkMode(dc, gdi::TRANSPARENT);
-    ExtTextOutWide(dc, m.inner.left, m.inner.top, 0, m.inner, text, -1);
+    const auto length = static_cast<int32_t>(text.size());
+    ExtTextOutWide(dc, m.inner.left, m.inner.top, 0, m.inner, text, length);
     Coverage mask;
     MaskFromBits(mask, m.surface->DIBSectionBitsPtr(), w, h);
     PaintFromMask(mask, m.surface->DIBSectionBitsPtr(), w, h,
@@ -153,7 +154,8 @@ int32_t DrawShadowTextGlow(gdi::HDC hDC, gdi::RECT& Rect, const ShadowTextArgume
     const String doubled = a.Text + "\t" + a.Text;
     PaintGlow(hDC, Rect, doubled, a);
     const ScopedTextColor colored(hDC, a.crText);
-    ExtTextOutWide(hDC, Rect.left, Rect.top, gdi::ETO_CLIPPED, Rect, doubled, -1);
+    ExtTextOutWide(hDC, Rect.left, Rect.top, gdi::ETO_CLIPPED, Rect, doubled,
+                   static_cast<int32_t>(doubled.size()));
     return 0;
 }
 

@@ -79,7 +79,8 @@ void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<c
             spread = SpreadCharacters(hDC, Text, rect, TextAlignVert);
         }
     }
-    if (TextAlignHorz == TextAlignHorzJustify)
+    const bool moves = TextAlignVert == TextAlignVertCenter || TextAlignVert == TextAlignVertBottom;
+    if (TextAlignHorz == TextAlignHorzJustify && moves)
         AlignTop(rect, TextAlignVert, ExtentOf(hDC, Text).cy);
     rect = AlignRectangle(hDC, Text, rect, flags);
     DTFlags = flags;
@@ -134,7 +135,8 @@ void TextStyle::PaintTextOnce(gdi::HDC hDC, const String& text, const gdi::RECT&
     if (TextAlignHorz == TextAlignHorzJustify) {
         DrawJustifiedText(hDC, text, -1, rect, kSpread);
     } else if (TextAlignHorz == TextAlignHorzJustifyChar) {
-        ExtTextOutWide(hDC, rect.left, rect.top, gdi::ETO_CLIPPED, rect, text, -1);
+        ExtTextOutWide(hDC, rect.left, rect.top, gdi::ETO_CLIPPED, rect, text,
+                       static_cast<int32_t>(text.size()));
     } else {
         gdi::RECT target = rect;
         DrawTextWide(hDC, text, -1, target, flags);

@@ -38,10 +38,10 @@ kernel::HMODULE ModuleOf(const char* library) {
     return loaded ? loaded : kernel::TheKernel().LoadLibraryA(library);
 }
 
-// -1 is the whole text; more than there is is never read.
+// More than there is is never read. -1 goes through as it is: the call stops at a zero then, as the
+// ANSI one does that measures.
 int32_t CountIn(const String& text, int32_t count) {
-    const auto size = static_cast<int32_t>(text.size());
-    return count < 0 ? size : std::min(count, size);
+    return std::min(count, static_cast<int32_t>(text.size()));
 }
 
 }  // namespace
@@ -73,7 +73,7 @@ int32_t DrawTextWide(gdi::HDC hDC, const String& Text, int32_t nCount, gdi::RECT
 
 int32_t ExtTextOutWide(gdi::HDC hDC, int32_t X, int32_t Y, uint32_t Options,
                        const gdi::RECT& lpRect, const String& Text, int32_t Length) {
-    const auto count = static_cast<UINT>(CountIn(Text, Length));
+    const auto count = static_cast<UINT>(std::max(CountIn(Text, Length), 0));
     return wide::ExtTextOutW(hDC, X, Y, Options, &lpRect, Text.data(), count, nullptr);
 }
 

@@ -27,8 +27,9 @@ inline constexpr Stub<WideTextBinder<2>, decltype(gdi::TabbedTextOutW)> TabbedTe
 inline constexpr Stub<WideTextBinder<3>, decltype(gdi::GetTabbedTextExtentW)> GetTabbedTextExtentW;
 }  // namespace wide
 
-/// Lays out and paints text in a rectangle by `DrawTextFlags`; -1 is the whole text. The result
-/// is the height; DT_CALCRECT only measures and sets the right and bottom edges.
+/// Lays out and paints text in a rectangle by `DrawTextFlags`; -1 is the text up to its end, or to
+/// a zero in it. The result is the height; DT_CALCRECT only measures and sets the right and bottom
+/// edges.
 int32_t DrawTextWide(gdi::HDC hDC, const String& Text, int32_t nCount, gdi::RECT& lpRect,
                      uint32_t uFormat);
 /// Paints one line as it is, with the context's character extra. Option 4 clips.
