@@ -60,6 +60,25 @@ public:
     /// An image that the host disposes of; null when the file can't be read.
     gdiplus::GpImage* GdipLoadImageFromFile(const String& Filename);
 
+    /// Draws text with a shadow: `Style` 1 a soft one, 2 a blurred black one, 3 a glow; any other
+    /// draws nothing. With DT_CALCRECT it only measures, into the rectangle. Answers 0.
+    int32_t DrawShadowTextEx(gdi::HDC hDC, const String& pszText, gdi::RECT* lpRect,
+                             uint32_t dwFlags = 0, int32_t Style = 0, int32_t cch = -1,
+                             int32_t TextColor = 0, int32_t ShadowColor = 0, int32_t ShadowX = 0,
+                             int32_t ShadowY = 0, int32_t ShadowOffsetX = 0,
+                             int32_t ShadowOffsetY = 0);
+    /// Draws text with a soft shadow, and answers its height. The top byte of `crShadow` is the
+    /// shadow's alpha; none given is opaque. With DT_CALCRECT it only measures, into the rectangle.
+    int32_t DrawShadowText(gdi::HDC hDC, const String& pszText, gdi::RECT* lpRect, int32_t crText,
+                           int32_t crShadow, uint32_t dwFlags = 0, int32_t cch = -1,
+                           int32_t ixOffset = 3, int32_t iyOffset = -2, int32_t ShadowX = 4,
+                           int32_t ShadowY = 5);
+    /// Breaks text into lines of the rectangle's width and draws them; -1 for `Align` spreads the
+    /// words over the width, else it is a text alignment, which the context keeps. Answers the
+    /// height of all lines.
+    int32_t DrawJustifiedText(gdi::HDC hDC, const String& Text, int32_t nCount,
+                              const gdi::RECT* lpRect, int32_t Align);
+
     /// A command and its three operands; a failure inside is ignored, and leaves the result
     /// empty, as an unknown command does.
     ///
