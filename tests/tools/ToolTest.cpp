@@ -154,6 +154,49 @@ TEST(ToolRender, TakesSectionsNamesAndFrames) {
     for (uint32_t pixel : none.pixels) EXPECT_EQ(pixel, 0u);
 }
 
+int Inked(const test::TestPicture& with, const test::TestPicture& without) {
+    return test::ComparePictures(with, without, 0).pixels;
+}
+
+TEST(ToolRender, PaintsACaption) {
+    const test::TestPicture plain = Rendered("PushButton", {"--size", "120x34"});
+    const test::TestPicture captioned =
+        Rendered("PushButton", {"--size", "120x34", "--text", "Caption"});
+    EXPECT_GT(Inked(captioned, plain), 100);
+    // Letters over what is opaque leave it opaque.
+    for (size_t i = 0; i < plain.pixels.size(); ++i) {
+        if (plain.pixels[i] >> 24 == 255) {
+            EXPECT_EQ(captioned.pixels[i] >> 24, 255u);
+        }
+    }
+    const test::TestPicture empty = Rendered("PushButton", {"--size", "120x34", "--text", ""});
+    EXPECT_EQ(Inked(empty, plain), 0);
+    test::ExpectGolden("tool_render_caption", captioned);
+}
+
+TEST(ToolRender, PaintsAnIconWithItsTransparency) {
+    const std::string icon = Folder() + "icon.png";
+    test::TestPicture picture{4, 4, std::vector<uint32_t>(16, 0xFF2060A0)};
+    picture.At(0, 0) = 0;
+    picture.At(3, 3) = 0x802060A0;
+    ASSERT_TRUE(test::WritePng(icon, picture));
+    const test::TestPicture plain = Rendered("Panel", {"--size", "60x40"});
+    const test::TestPicture shown = Rendered("Panel", {"--size", "60x40", "--icon", icon});
+    EXPECT_GE(Inked(shown, plain), 14);
+    EXPECT_LE(Inked(shown, plain), 16 * 16);
+    test::ExpectGolden("tool_render_icon", shown);
+}
+
+TEST(ToolErrors, AnIconThatIsNoPictureIsNamed) {
+    WriteSkin("icon.txt", "no picture");
+    for (const std::string& path : {Folder() + "icon.txt", std::string("/nowhere/icon.png")}) {
+        const Result result =
+            Call({"render", kSkin, "--item", "Tab", "--icon", path, "-o", Folder() + "x.png"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.errors, HasSubstr(path + ": error: no picture that can be read"));
+    }
+}
+
 TEST(ToolGallery, ThePictureOfTheSampleSkinIsAsItWas) {
     const std::string path = Folder() + "gallery.png";
     const Result result = Call({"gallery", kSkin, "-o", path});

@@ -11,6 +11,8 @@
 namespace vxgui::tool {
 namespace {
 
+constexpr const char* kPictureKinds = "BMP, PNG, JPEG, GIF or TGA was expected";
+
 struct Options {
     std::string skin;
     std::string item;
@@ -18,6 +20,8 @@ struct Options {
     std::string size;
     int32_t frame = -1;
     int32_t glyphFrame = -1;
+    std::string text;
+    std::string icon;
     std::string output;
 };
 
@@ -40,10 +44,27 @@ gdi::SIZE SizeOf(const std::string& text) {
     return size;
 }
 
-void Paint(Sheet& sheet, ThemeItem& item, const Options& options, uint32_t ground) {
+// None when none is asked for.
+Ref<cAlphaDIBSection> LoadIcon(const std::string& path) {
+    if (path.empty()) return nullptr;
+    Ref<cAlphaDIBSection> icon = New<cAlphaDIBSection>();
+    if (!icon->CreateFromPictureFile(path)) {
+        throw ToolError(path + ": error: no picture that can be read: " + kPictureKinds);
+    }
+    if (icon->HasAlphaChannel()) icon->PreMultiplyAlpha();
+    return icon;
+}
+
+void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon, const Options& options,
+           uint32_t ground) {
     sheet.Fill(ground);
     item.DrawBackground(sheet.dc(), 0, 0, sheet.width(), sheet.height(), options.frame,
                         options.glyphFrame);
+    int32_t right = sheet.width(), bottom = sheet.height();
+    if (icon) item.DrawIcon(sheet.dc(), icon, 0, -1, 0, 0, right, bottom);
+    right = sheet.width(), bottom = sheet.height();
+    if (!options.text.empty())
+        item.DrawText(sheet.dc(), options.text, DT_SINGLELINE, -1, 0, 0, right, bottom);
 }
 
 // What a pixel was to look so on black and so on white: straight colour and alpha. White shines
@@ -70,10 +91,11 @@ void RenderItem(const Options& options, std::ostream& out) {
     const Skin skin = LoadSkin(options.skin);
     const Ref<ThemeItem> item = FindItem(skin, options.item);
     const gdi::SIZE size = options.size.empty() ? OwnSize(*item) : SizeOf(options.size);
+    const Ref<cAlphaDIBSection> icon = LoadIcon(options.icon);
     item->State(state);
     Sheet black(size.cx, size.cy), white(size.cx, size.cy);
-    Paint(black, *item, options, 0xFF000000);
-    Paint(white, *item, options, 0xFFFFFFFF);
+    Paint(black, *item, icon, options, 0xFF000000);
+    Paint(white, *item, icon, options, 0xFFFFFFFF);
     for (int32_t y = 0; y < size.cy; ++y) {
         for (int32_t x = 0; x < size.cx; ++x)
             black.At(x, y) = Recovered(black.At(x, y), white.At(x, y));
@@ -101,6 +123,8 @@ void AddRender(CLI::App& app, std::ostream& out) {
                         "Frame of the image; that of the state when left out");
     command->add_option("--glyph-frame", options->glyphFrame,
                         "Frame of the glyph; that of the state when left out");
+    command->add_option("--text", options->text, "Caption, in the item's font and text style");
+    command->add_option("--icon", options->icon, "Picture file, placed as the item's icons are");
     command->add_option("-o,--output", options->output, "PNG file to write")->required();
     command->footer(
         "Example:\n  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver "
