@@ -1,3 +1,4 @@
+#include <algorithm>
 #include "tests/support/ActedKernel.h"
 
 namespace vxgui {
@@ -37,7 +38,15 @@ BOOL ActedKernel::FreeLibrary(kernel::HMODULE module) {
     return 1;
 }
 
+// An apartment may end while it still holds modules of the real kernel.
+bool ActedKernel::Made(kernel::HMODULE handle) const {
+    return std::any_of(modules_.begin(), modules_.end(), [&](const auto& entry) {
+        return entry.second.module && entry.second.module->Handle() == handle;
+    });
+}
+
 kernel::FARPROC ActedKernel::GetProcAddress(kernel::HMODULE handle, const char* name) {
+    if (!Made(handle)) return nullptr;
     const auto& module = *reinterpret_cast<ActedModule*>(handle);
     if (reinterpret_cast<uintptr_t>(name) == 1) return Write("find 1"), module.firstOrdinal;
     Write(std::string("find ") + name);

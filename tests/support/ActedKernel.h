@@ -46,6 +46,7 @@ private:
     };
 
     void Write(const std::string& line);
+    bool Made(kernel::HMODULE handle) const;
     kernel::HMODULE Find(const std::string& name, bool loadedOnly);
 
     std::map<std::string, Entry> modules_;
