@@ -1,5 +1,6 @@
-#include <algorithm>
 #include "tests/support/ActedKernel.h"
+
+#include <algorithm>
 
 namespace vxgui {
 
