@@ -21,7 +21,9 @@ void cAlphaDIBSection::PaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDs
     const int32_t h = OrDefault(lDstHeight, Height());
     const int32_t sw = OrDefault(lSrcWidth, Width());
     const int32_t sh = OrDefault(lSrcHeight, Height());
-    if (UseDrawDib()) {
+    // A stored surface may have a depth whose colour table the header alone doesn't hold.
+    const bool hasTable = header_.biBitCount > 0 && header_.biBitCount <= 8;
+    if (UseDrawDib() && !hasTable) {
         msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &header_, LiveBits(),
                              lSrcLeft, lSrcTop, sw, sh, 0);
     } else if (w == sw && h == sh) {
