@@ -151,7 +151,8 @@ TEST(SurfacePersist, AStoredHeaderDecidesDepthAndOrientationAndTheLoopsKeepToIts
     for (const uint16_t depth : {uint16_t{1}, uint16_t{8}, uint16_t{24}, uint16_t{32}}) {
         for (const int32_t height : {5, -5}) {
             const auto surface = New<cAlphaDIBSection>();
-            const auto block = With<int32_t>(With<uint16_t>(bytes, 34, depth), 28, height);
+            auto block = With<int32_t>(With<uint16_t>(bytes, 34, depth), 28, height);
+            if (height < 0) block = With<uint32_t>(block, 20, 124);  // the longest header
             if (!surface->FromByteArray(block)) continue;
             GuardedTarget target(6, 5);
             surface->PreMultiplyAlpha();

@@ -5,6 +5,13 @@
 
 namespace vxgui {
 
+/// A bitmap header as it came from elsewhere, with all that the platform may look for behind it:
+/// the rest of the longest header, 124 bytes, three masks, and the colours of one of few bits.
+struct StoredHeader {
+    gdi::BITMAPINFOHEADER header{};
+    uint8_t behind[124 - sizeof(gdi::BITMAPINFOHEADER) + 12 + 256 * sizeof(gdi::RGBQUAD)]{};
+};
+
 /// The bitmap header of a surface: 32 bits a pixel, bottom row first. The image size wraps, as
 /// the creating call refuses what is too large.
 inline gdi::BITMAPINFO DibInfo(int32_t width, int32_t height) {

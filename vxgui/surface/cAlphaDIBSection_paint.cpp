@@ -2,6 +2,7 @@
 #include "vxgui/frame/modMsImg32.h"
 #include "vxgui/frame/modMsvfw32.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 #include "vxgui/surface/modDraw.h"
 
@@ -21,10 +22,9 @@ void cAlphaDIBSection::PaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDs
     const int32_t h = OrDefault(lDstHeight, Height());
     const int32_t sw = OrDefault(lSrcWidth, Width());
     const int32_t sh = OrDefault(lSrcHeight, Height());
-    // A stored surface may have a depth whose colour table the header alone doesn't hold.
-    const bool hasTable = header_.biBitCount > 0 && header_.biBitCount <= 8;
-    if (UseDrawDib() && !hasTable) {
-        msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &header_, LiveBits(),
+    if (UseDrawDib()) {
+        const StoredHeader info{header_, {}};
+        msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &info.header, LiveBits(),
                              lSrcLeft, lSrcTop, sw, sh, 0);
     } else if (w == sw && h == sh) {
         gdi::BitBlt(lHDC, lDstLeft, lDstTop, w, h, hDC_, lSrcLeft, lSrcTop, eRop);

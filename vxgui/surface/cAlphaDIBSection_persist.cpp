@@ -8,6 +8,7 @@
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/surface/BitmapMemory.h"
+#include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 // docs/formats.md has both forms byte by byte.
@@ -36,12 +37,6 @@ bool IsReadable(const SerialHeader& header) {
     return std::memcmp(header.magic, kMagic, sizeof kMagic) == 0 &&
            (header.version == 1 || header.version == 2) && header.size == sizeof header;
 }
-
-/// A header with room for the colours that one of few bits a pixel would be followed by.
-struct StoredInfo {
-    gdi::BITMAPINFOHEADER header{};
-    gdi::RGBQUAD colors[256]{};
-};
 
 size_t ImageSize(const gdi::BITMAPINFOHEADER& header) {
     return static_cast<size_t>(std::max(0, static_cast<int32_t>(header.biSizeImage)));
@@ -96,7 +91,7 @@ bool cAlphaDIBSection::FromLp(const void* lp, int32_t SIZE) {
 }
 
 bool cAlphaDIBSection::DibFromLp(const void* lp, int32_t SIZE) {
-    StoredInfo info;
+    StoredHeader info;
     constexpr auto kSize = static_cast<int32_t>(sizeof info.header);
     if (!lp || SIZE < kSize) return false;
     std::memcpy(&info.header, lp, sizeof info.header);
