@@ -10,9 +10,7 @@ std::vector<BuiltInEntry> BuiltInModules() {
     return {
         {"VxCoreHlp.dll", corehlp::kCoreHlpExports}, {"msimg32.dll", gdi::kMsImg32Exports},
         {"msvfw32.dll", gdi::kMsVfw32Exports},       {"user32.dll", gdi::kUser32Exports},
-        {"gdi32.dll", gdi::kGdi32Exports},           {"user32.dll", gdi::kUser32Exports},
-        {"gdi32.dll", gdi::kGdi32Exports},
-        {"GDIPLUS.DLL", gdiplus::kGdiplusExports},
+        {"gdi32.dll", gdi::kGdi32Exports},           {"GDIPLUS.DLL", gdiplus::kGdiplusExports},
     };
 }
 
