@@ -31,19 +31,8 @@ using GdipStub = Stub<GdipBinder<kName>, Signature>;
 namespace flat {
 
 /// One flat function: the supplier declares it, and its name is the name of the export.
-#define VXGUI_FLAT(Name) inline constexpr GdipStub<#Name, decltype(gdiplus::Name)> Name
-
-VXGUI_FLAT(GdiplusStartup);
-VXGUI_FLAT(GdipLoadImageFromFile);
-VXGUI_FLAT(GdipCreateBitmapFromFile);
-VXGUI_FLAT(GdipCreateBitmapFromStream);
-VXGUI_FLAT(GdipDisposeImage);
-VXGUI_FLAT(GdipGetImageWidth);
-VXGUI_FLAT(GdipGetImageHeight);
-VXGUI_FLAT(GdipCreateHBITMAPFromBitmap);
-VXGUI_FLAT(GdipBitmapLockBits);
-VXGUI_FLAT(GdipBitmapUnlockBits);
-
+#define VXGUI_FLAT(Name) inline constexpr GdipStub<#Name, decltype(gdiplus::Name)> Name;
+VXGUI_GDIPLUS_FUNCTIONS(VXGUI_FLAT)
 #undef VXGUI_FLAT
 
 }  // namespace flat

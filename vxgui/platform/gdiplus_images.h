@@ -8,8 +8,8 @@ namespace vxgui::gdiplus {
 
 extern "C" {
 
-/// Decodes a file or stream (BMP, GIF, ICO, JPEG, PNG, TIFF) by its signature, whatever its name: the
-/// first frame, to 32-bit pixels. As an image, a file that isn't there gives `FileNotFound` and
+/// Decodes a file or stream (BMP, GIF, ICO, JPEG, PNG, TIFF) by its signature, whatever its name:
+/// the first frame, to 32-bit pixels. As an image, a file that isn't there gives `FileNotFound` and
 /// one that is no picture `OutOfMemory`; as a bitmap, both give `InvalidParameter`.
 VXPLATFORM_API GpStatus GdipLoadImageFromFile(const WCHAR* filename, GpImage** image);
 VXPLATFORM_API GpStatus GdipCreateBitmapFromFile(const WCHAR* filename, GpBitmap** bitmap);
@@ -33,3 +33,15 @@ VXPLATFORM_API GpStatus GdipBitmapUnlockBits(GpBitmap* bitmap, BitmapData* data)
 }  // extern "C"
 
 }  // namespace vxgui::gdiplus
+
+/// The functions above, for the tables that list all.
+#define VXGUI_GDIPLUS_IMAGES(X)    \
+    X(GdipBitmapLockBits)          \
+    X(GdipBitmapUnlockBits)        \
+    X(GdipCreateBitmapFromFile)    \
+    X(GdipCreateBitmapFromStream)  \
+    X(GdipCreateHBITMAPFromBitmap) \
+    X(GdipDisposeImage)            \
+    X(GdipGetImageHeight)          \
+    X(GdipGetImageWidth)           \
+    X(GdipLoadImageFromFile)

@@ -4,6 +4,7 @@
 
 #include "vxgui/base/Export.h"
 #include "vxgui/platform/gdi_types.h"
+#include "vxgui/platform/gdiplus_enums.h"
 #include "vxgui/platform/ole_stream.h"
 
 /// Handles, records and constants of the flat GDI+ interface, with their published names, values
@@ -11,7 +12,9 @@
 namespace vxgui::gdiplus {
 
 using WCHAR = char16_t;
+using REAL = float;
 using INT = int32_t;
+using LANGID = uint16_t;
 using UINT32 = uint32_t;
 using UINT_PTR = uintptr_t;
 using ULONG_PTR = uintptr_t;
@@ -22,48 +25,102 @@ using ole::IStream;
 /// answers `InvalidParameter`.
 class GpImage;
 class GpBitmap;
+class GpCachedBitmap;
+class GpGraphics;
+class GpMatrix;
+class GpPath;
+class GpPen;
+class GpBrush;
+class GpImageAttributes;
+class CGpEffect;
+class GpFontFamily;
+class GpFont;
+class GpFontCollection;
+class GpStringFormat;
 
-enum Status : int32_t {
-    Ok = 0,
-    GenericError = 1,
-    InvalidParameter = 2,
-    OutOfMemory = 3,
-    ObjectBusy = 4,
-    InsufficientBuffer = 5,
-    NotImplemented = 6,
-    Win32Error = 7,
-    WrongState = 8,
-    Aborted = 9,
-    FileNotFound = 10,
-    ValueOverflow = 11,
-    AccessDenied = 12,
-    UnknownImageFormat = 13,
-    FontFamilyNotFound = 14,
-    FontStyleNotFound = 15,
-    NotTrueTypeFont = 16,
-    UnsupportedGdiplusVersion = 17,
-    GdiplusNotInitialized = 18,
-    PropertyNotFound = 19,
-    PropertyNotSupported = 20,
-    ProfileNotFound = 21,
+struct GpPoint {
+    INT X, Y;
 };
-using GpStatus = Status;
-
-using PixelFormat = INT;
-constexpr PixelFormat PixelFormat1bppIndexed = 0x00030101, PixelFormat4bppIndexed = 0x00030402,
-                      PixelFormat8bppIndexed = 0x00030803, PixelFormat16bppGrayScale = 0x00101004,
-                      PixelFormat16bppRGB555 = 0x00021005, PixelFormat16bppRGB565 = 0x00021006,
-                      PixelFormat16bppARGB1555 = 0x00061007, PixelFormat24bppRGB = 0x00021808,
-                      PixelFormat32bppRGB = 0x00022009, PixelFormat32bppARGB = 0x0026200A,
-                      PixelFormat32bppPARGB = 0x000E200B, PixelFormat48bppRGB = 0x0010300C,
-                      PixelFormat64bppARGB = 0x0034400D, PixelFormat64bppPARGB = 0x001C400E,
-                      PixelFormat32bppCMYK = 0x0000200F;
-
-/// Flags of `GdipBitmapLockBits`.
-constexpr UINT ImageLockModeRead = 1, ImageLockModeWrite = 2, ImageLockModeUserInputBuf = 4;
-
+struct GpPointF {
+    REAL X, Y;
+};
+struct GpSizeF {
+    REAL Width, Height;
+};
 struct GpRect {
     INT X, Y, Width, Height;
+};
+struct GpRectF {
+    REAL X, Y, Width, Height;
+};
+
+struct CharacterRange {
+    INT First, Length;
+};
+
+struct CLSID {
+    DWORD Data1;
+    WORD Data2, Data3;
+    BYTE Data4[8];
+};
+using GUID = CLSID;
+
+/// A palette; `Entries` has `Count` colours.
+struct ColorPalette {
+    UINT Flags;  ///< of `PaletteFlags`
+    UINT Count;
+    ARGB Entries[1];
+};
+
+/// Rows multiply: (red, green, blue, alpha, 1) from the left.
+struct ColorMatrix {
+    REAL m[5][5];
+};
+struct ColorMap {
+    ARGB oldColor, newColor;
+};
+
+/// One property of an image; `value` is `length` bytes.
+struct PropertyItem {
+    DWORD id;
+    DWORD length;
+    WORD type;
+    void* value;
+};
+
+struct EncoderParameter {
+    GUID Guid;
+    DWORD NumberOfValues;
+    DWORD Type;
+    void* Value;
+};
+/// `Parameter` has `Count` of them.
+struct EncoderParameters {
+    UINT Count;
+    EncoderParameter Parameter[1];
+};
+
+struct ImageCodecInfo {
+    CLSID Clsid;
+    GUID FormatID;
+    const WCHAR* CodecName;
+    const WCHAR* DllName;
+    const WCHAR* FormatDescription;
+    const WCHAR* FilenameExtension;
+    const WCHAR* MimeType;
+    DWORD Flags;
+    DWORD Version;
+    DWORD SigCount;
+    DWORD SigSize;
+    const BYTE* SigPattern;
+    const BYTE* SigMask;
+};
+
+/// A path as arrays of its own.
+struct GpPathData {
+    INT Count;
+    GpPointF* Points;
+    BYTE* Types;
 };
 
 /// Locked pixels: the top row first, `Stride` bytes from row to row.

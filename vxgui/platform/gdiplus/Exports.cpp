@@ -10,21 +10,10 @@ kernel::Export Named(const char* name, Function* function) {
 
 }  // namespace
 
-#define VXGUI_FLAT(name) Named(#name, name)
+#define VXGUI_FLAT(name) Named(#name, name),
 
 const kernel::Export kGdiplusExports[] = {
-    VXGUI_FLAT(GdipBitmapLockBits),
-    VXGUI_FLAT(GdipBitmapUnlockBits),
-    VXGUI_FLAT(GdipCreateBitmapFromFile),
-    VXGUI_FLAT(GdipCreateBitmapFromStream),
-    VXGUI_FLAT(GdipCreateHBITMAPFromBitmap),
-    VXGUI_FLAT(GdipDisposeImage),
-    VXGUI_FLAT(GdipGetImageHeight),
-    VXGUI_FLAT(GdipGetImageWidth),
-    VXGUI_FLAT(GdipLoadImageFromFile),
-    VXGUI_FLAT(GdiplusShutdown),
-    VXGUI_FLAT(GdiplusStartup),
-    {nullptr, 0, nullptr},
+    VXGUI_GDIPLUS_FUNCTIONS(VXGUI_FLAT){nullptr, 0, nullptr},
 };
 
 #undef VXGUI_FLAT

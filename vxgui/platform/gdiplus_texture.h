@@ -1,0 +1,13 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus_types.h"
+
+/// Brushes of pictures.
+namespace vxgui::gdiplus {
+
+extern "C" {}  // extern "C"
+
+}  // namespace vxgui::gdiplus
+
+/// The functions above, for the tables that list all.
+#define VXGUI_GDIPLUS_TEXTURE(X)
