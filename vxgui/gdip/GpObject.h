@@ -1,0 +1,72 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "vxgui/base/Ref.h"
+#include "vxgui/frame/modGdiplus.h"
+
+namespace vxgui {
+
+/// What all wrappers of flat objects share: a status that sticks, and the check that sets it.
+class GpObject : public Object {
+public:
+    /// The status of the last flat call that failed; a successful call doesn't clear it.
+    gdiplus::Status Status = gdiplus::Ok;
+
+protected:
+    /// Keeps a failure, and answers whether there was none.
+    bool Check(gdiplus::Status status) {
+        if (status != gdiplus::Ok) Status = status;
+        return status == gdiplus::Ok;
+    }
+};
+
+/// A wrapper that owns one flat object. `Self` is the class itself, with a `static constexpr auto
+/// kDelete` (its flat destructor) and, for `Clone`, a `static constexpr auto kClone`.
+template <class Self, class Flat>
+class GpOwner : public GpObject {
+public:
+    /// The flat object, or null. `SetHandle` owns what it is given.
+    void SetHandle(Flat*& handle) {
+        static_cast<Self*>(this)->Dispose();
+        handle_ = handle;
+    }
+    /// Deletes the flat object; errors don't count.
+    void Dispose() {
+        if (handle_) Self::kDelete(handle_);
+        handle_ = nullptr;
+    }
+    Ref<Self> Clone() {
+        Flat* copy = nullptr;
+        if (!Check(Self::kClone(static_cast<Self*>(this)->Handle(), &copy))) return nullptr;
+        return Adopted(copy);
+    }
+
+protected:
+    ~GpOwner() override { Dispose(); }
+
+    /// Takes what a creating call made when it succeeded, else keeps the object as it was.
+    bool Adopt(gdiplus::Status status, Flat* made) {
+        if (!Check(status)) return false;
+        static_cast<Self*>(this)->SetHandle(made);
+        return true;
+    }
+    static Ref<Self> Adopted(Flat* made) {
+        if (!made) return nullptr;
+        Ref<Self> result = New<Self>();
+        result->SetHandle(made);
+        return result;
+    }
+
+    Flat* handle_ = nullptr;
+};
+
+/// A private copy of a caller's array; empty for a count of 0 or less.
+template <class T>
+std::vector<T> CopyOf(const T* items, int32_t count) {
+    if (count <= 0 || !items) return {};
+    return std::vector<T>(items, items + count);
+}
+
+}  // namespace vxgui

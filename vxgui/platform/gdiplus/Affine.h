@@ -1,0 +1,34 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus_types.h"
+
+namespace vxgui::gdiplus {
+
+/// A matrix of 3 by 2 for row vectors: x' = x m11 + y m21 + dx, y' = x m12 + y m22 + dy.
+struct Affine {
+    REAL m11 = 1, m12 = 0, m21 = 0, m22 = 1, dx = 0, dy = 0;
+
+    GpPointF Apply(GpPointF p) const {
+        return {p.X * m11 + p.Y * m21 + dx, p.X * m12 + p.Y * m22 + dy};
+    }
+    /// A direction, which a shift leaves alone.
+    GpPointF ApplyToVector(GpPointF v) const {
+        return {v.X * m11 + v.Y * m21, v.X * m12 + v.Y * m22};
+    }
+    REAL Determinant() const { return m11 * m22 - m12 * m21; }
+    bool operator==(const Affine&) const = default;
+};
+
+/// First `a`, then `b`.
+constexpr Affine operator*(const Affine& a, const Affine& b) {
+    return {a.m11 * b.m11 + a.m12 * b.m21,      a.m11 * b.m12 + a.m12 * b.m22,
+            a.m21 * b.m11 + a.m22 * b.m21,      a.m21 * b.m12 + a.m22 * b.m22,
+            a.dx * b.m11 + a.dy * b.m21 + b.dx, a.dx * b.m12 + a.dy * b.m22 + b.dy};
+}
+
+/// `change` before `base` or after it.
+constexpr Affine Combined(const Affine& base, const Affine& change, MatrixOrder order) {
+    return order == MatrixOrderAppend ? base * change : change * base;
+}
+
+}  // namespace vxgui::gdiplus

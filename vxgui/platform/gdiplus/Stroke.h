@@ -1,0 +1,25 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus/Path.h"
+#include "vxgui/platform/gdiplus/Pen.h"
+
+namespace vxgui::gdiplus {
+
+/// What units of length mean where a stroke is drawn.
+struct StrokePlace {
+    Affine worldToDevice;
+    REAL dpi = 96;            ///< of the device
+    REAL pixelsPerWorld = 1;  ///< of the page alone: a pen in world units scales with the world
+};
+
+/// Appends a path to the current path of a context whose user space is the world.
+void AppendPath(cairo_t* cairo, const PathPoints& path);
+
+/// Strokes `path` with the pen's geometry (caps, anchors, joins, dashes, compound, inset, unit and
+/// transform) with the source that is set. The context's user space is the world.
+void StrokePath(cairo_t* cairo, const Pen& pen, const PathPoints& path, const StrokePlace& place);
+
+/// The box that `StrokePath` stays in, in world coordinates.
+GpRectF StrokeBounds(const Pen& pen, const PathPoints& path, const StrokePlace& place);
+
+}  // namespace vxgui::gdiplus
