@@ -71,7 +71,7 @@ void AddGallery(CLI::App& app, std::ostream& out) {
     const auto options = std::make_shared<Options>();
     CLI::App* command =
         app.add_subcommand("gallery", "Paint every item of a skin in every state, at three sizes");
-    command->add_option("SKIN", options->skin, "Define file of a theme set")->required();
+    command->add_option("SKIN", options->skin, kSkinHelp)->required();
     command->add_option("-o,--output", options->output, "PNG file to write")->required();
     command->footer("Example:\n  vxgui gallery skins/aurora/aurora.theme -o gallery.png");
     command->callback([options, &out] { PaintGallery(*options, out); });

@@ -65,7 +65,8 @@ private:
 };
 
 // The card as it stands by itself, its top left corner at the origin.
-GalleryCard LayOutCard(const Ref<ThemeItem>& item, const String& name, const String& caption) {
+GalleryCard LayOutCard(const SkinItem& shown) {
+    const auto& [section, name, caption, item] = shown;
     GalleryCard card{item, name, caption, {}, {}, {}};
     Flow flow(kCardMargin, kCardMargin + kTitleHeight, kPageWidth - 2 * kPageMargin - kCardMargin,
               kGap);
@@ -101,10 +102,8 @@ void MoveCard(GalleryCard& card, int32_t x, int32_t y) {
 GalleryPage LayOutGallery(const Skin& skin) {
     GalleryPage page;
     Flow shelves(kPageMargin, kPageMargin, kPageWidth - kPageMargin, kPageMargin);
-    for (int32_t n = 1; n <= skin.set->ThemeItems()->Count(); ++n) {
-        const String section = NumberedSection("Theme_", n);
-        const String caption = skin.file->GetString(section, "Caption", "");
-        GalleryCard card = LayOutCard(skin.set->Item(section), skin.NameOf(section), caption);
+    for (const SkinItem& item : skin.items) {
+        GalleryCard card = LayOutCard(item);
         const gdi::RECT place = shelves.Place(card.box.right, card.box.bottom);
         MoveCard(card, place.left, place.top);
         page.cards.push_back(std::move(card));

@@ -110,7 +110,7 @@ void AddRender(CLI::App& app, std::ostream& out) {
     const auto options = std::make_shared<Options>();
     CLI::App* command =
         app.add_subcommand("render", "Paint one item of a skin, with its transparency");
-    command->add_option("SKIN", options->skin, "Define file of a theme set")->required();
+    command->add_option("SKIN", options->skin, kSkinHelp)->required();
     command->add_option("--item", options->item, "The item's name, or its section")->required();
     command
         ->add_option("--state", options->state,

@@ -1,23 +1,36 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "vxgui/platform/core7.h"
+#include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/ThemeSet.h"
 
 namespace vxgui::tool {
 
-/// A skin that a command works on: the set, and the file it came from.
-struct Skin {
-    std::string path;
-    Ref<core7::DefineFile> file;
-    Ref<ThemeSet> set;
-
-    /// The name that the author gave to an item with the key "Name", else its section.
-    String NameOf(const String& section) const;
+struct SkinItem {
+    String section;
+    String name;     ///< for people: what the author calls it, else its section
+    String caption;  ///< a text to show it with; empty for items that carry none
+    Ref<ThemeItem> item;
 };
 
-/// Loads a theme set. What keeps it from being painted whole - a file that can't be read, lines
+/// A skin that a command works on: what it holds, and where that came from.
+struct VXGUI_LOCAL Skin {
+    std::string path;
+    std::vector<SkinItem> items;
+    Ref<core7::DefineFile> file;  ///< the theme set's define file, or the UIS file
+    Ref<ThemeSet> set;            ///< of a theme set
+    Ref<SkinDef> desktop;         ///< of a skin in the UIS dialect or a style of a module
+};
+
+/// What the commands say of their argument.
+constexpr const char* kSkinHelp =
+    "Define file of a theme set, UIS file of a skin, or res:MODULE:STYLE";
+
+/// Loads a theme set, a skin in the UIS dialect with its taskbar, or a style of a module,
+/// "res:MODULE:STYLE". What keeps it from being painted whole - a file that can't be read, lines
 /// that make no sense, an image that is missing or broken, a list that is too short - is a
 /// `ToolError` with a line for each, `file:line:column: error: text`.
 Skin LoadSkin(const std::string& path);

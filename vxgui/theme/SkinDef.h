@@ -53,6 +53,11 @@ public:
         int32_t SystemStatus = 0, SystemMessage = 0, SystemIcon = 0;
     };
     const SystemFontNumbers& SystemFonts() const { return systemFonts_; }
+    /// The two files of the skin that is open; none when no skin is.
+    Ref<core7::DefineFile> UisFile() const { return uis_; }
+    Ref<core7::DefineFile> TaskbarFile() const { return taskbar_; }
+    /// Where a skin of files was last looked for its taskbar, whether it is open or not.
+    String TaskbarFileName() const { return taskbarFile_; }
     /// The names of the parts, in an array from 0 to 50, and the last index that is used.
     static void XPTaskbarItemNames(std::vector<String>& Names, int32_t& Last);
 

@@ -1,5 +1,7 @@
 #include "vxgui/theme/StyleModule.h"
 
+#include <algorithm>
+
 #include "vxgui/base/Error.h"
 #include "vxgui/frame/Services.h"
 
@@ -11,6 +13,10 @@ const char* const kDefaultModule = "DefaultStyles.dll";
 const char* const kDefaultStyle = "blue";
 const char* const kSchemedStyle = "Luna.msstyles";
 constexpr size_t kSchemedStyleLength = 13;
+
+// Where the library's own data lies, seen from the library or from a program that it is linked
+// into: the build folder and a folder in it, lib or bin of an installation, and lib/MACHINE.
+const char* const kLibrarysData[] = {"share/vxgui", "../share/vxgui", "../../share/vxgui"};
 
 String Or(String text, const char* fallback) { return text.empty() ? fallback : text; }
 
@@ -49,12 +55,16 @@ String FindStyleModule(const String& name, const String& skinPath) {
     core7::PathService& paths = gServices.pathService();
     core7::FileSystem& files = paths.TheFileSystem();
     if (paths.FileExists(name)) return name;
-    const String program = kernel::TheKernel().GetProgramFileName();
-    for (const String& folder : {skinPath, files.GetParentFolderName(program)}) {
-        const String path = files.BuildPath(folder, name);
-        if (paths.FileExists(path)) return path;
-    }
-    return name;
+    kernel::Kernel& kernel = kernel::TheKernel();
+    const String program = files.GetParentFolderName(kernel.GetProgramFileName());
+    const String library = files.GetParentFolderName(kernel.GetModuleFileNameA(nullptr));
+    std::vector<String> candidates = {files.BuildPath(skinPath, name),
+                                      files.BuildPath(program, name)};
+    for (const char* folder : kLibrarysData)
+        candidates.push_back(files.BuildPath(files.BuildPath(library, folder), name));
+    const auto found = std::find_if(candidates.begin(), candidates.end(),
+                                    [&](const String& path) { return paths.FileExists(path); });
+    return found == candidates.end() ? name : *found;
 }
 
 LoadedModule::LoadedModule(const String& path)

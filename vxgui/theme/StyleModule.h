@@ -22,8 +22,8 @@ struct StyleReference {
 /// "DefaultStyles.dll" and "blue". Raises error 5 for one that has text and no ":" in it.
 StyleReference ParseStyleReference(const String& reference);
 
-/// Where the module lies: as it is named, in the skin's folder, or in the program's; the name
-/// itself when it is nowhere.
+/// Where the module lies: as it is named, in the skin's folder, in the program's, or with the
+/// library's own data; the name itself when it is nowhere.
 String FindStyleModule(const String& name, const String& skinPath);
 
 /// A module that is loaded for the length of a scope.
