@@ -8,6 +8,14 @@ namespace vxgui::gdiplus {
 
 extern "C" {
 
+/// A bitmap of a published format. Without `scan0` it has zeroed memory of its own and `stride`
+/// doesn't count; else it lives in the caller's memory, whose top row is at `scan0`: rows `stride`
+/// bytes apart, a multiple of 4, negative where the bottom row is the first in memory. An indexed
+/// one starts with a standard palette.
+VXPLATFORM_API GpStatus GdipCreateBitmapFromScan0(INT width, INT height, INT stride,
+                                                  PixelFormat format, BYTE* scan0,
+                                                  GpBitmap** bitmap);
+
 /// Decodes a file or stream (BMP, GIF, ICO, JPEG, PNG, TIFF) by its signature, whatever its name:
 /// the first frame, to 32-bit pixels. As an image, a file that isn't there gives `FileNotFound` and
 /// one that is no picture `OutOfMemory`; as a bitmap, both give `InvalidParameter`.
@@ -39,6 +47,7 @@ VXPLATFORM_API GpStatus GdipBitmapUnlockBits(GpBitmap* bitmap, BitmapData* data)
     X(GdipBitmapLockBits)          \
     X(GdipBitmapUnlockBits)        \
     X(GdipCreateBitmapFromFile)    \
+    X(GdipCreateBitmapFromScan0)   \
     X(GdipCreateBitmapFromStream)  \
     X(GdipCreateHBITMAPFromBitmap) \
     X(GdipDisposeImage)            \

@@ -21,8 +21,14 @@ protected:
 
     // A bitmap of these pixels, the top row first.
     GpBitmap* Make(int32_t width, int32_t height, std::vector<uint32_t> pixels) {
-        return Keep(
-            static_cast<GpBitmap*>(EnterObject(New<Bitmap>(width, height, std::move(pixels)))));
+        const Ref<Bitmap> bitmap = Bitmap::Create(width, height, PixelFormat32bppARGB);
+        for (int32_t y = 0; y < height; ++y) {
+            bitmap->WriteStraight(
+                0, y,
+                std::span(pixels).subspan(static_cast<size_t>(y) * static_cast<size_t>(width),
+                                          static_cast<size_t>(width)));
+        }
+        return Keep(static_cast<GpBitmap*>(EnterObject(bitmap)));
     }
     GpBitmap* FromFile(const std::string& file) {
         GpBitmap* bitmap = nullptr;

@@ -10,6 +10,8 @@ class Image : public FlatObject {
 public:
     virtual UINT Width() const = 0;
     virtual UINT Height() const = 0;
+
+    REAL dpiX = 96, dpiY = 96;  ///< a new image has the screen's
 };
 
 }  // namespace vxgui::gdiplus

@@ -1,4 +1,5 @@
-#include <cstring>
+#include <algorithm>
+#include <vector>
 
 #include "vxgui/platform/gdi_dib.h"
 #include "vxgui/platform/gdiplus/Bitmap.h"
@@ -31,16 +32,16 @@ extern "C" GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* 
     return FlatCreate(result, [&] {
         const Ref<Bitmap> found = Find<Bitmap>(bitmap);
         if (!found) return InvalidParameter;
+        if (found->IsLocked()) return ObjectBusy;
         uint8_t* to = nullptr;
         *result = gdi::CreateDib(static_cast<int32_t>(found->Width()),
                                  static_cast<int32_t>(found->Height()), 32, &to);
         if (!*result) return OutOfMemory;
+        std::vector<ARGB> row(found->Width());
         for (auto y = static_cast<int32_t>(found->Height()); y-- > 0;) {
-            const uint32_t* from = found->Row(y);
-            for (UINT x = 0; x < found->Width(); ++x, to += 4) {
-                const uint32_t pixel = PremultipliedOver(from[x], background);
-                std::memcpy(to, &pixel, 4);
-            }
+            found->ReadStraight(0, y, row);
+            for (ARGB& pixel : row) pixel = PremultipliedOver(pixel, background);
+            to = std::copy_n(reinterpret_cast<const uint8_t*>(row.data()), row.size() * 4, to);
         }
         return Ok;
     });
