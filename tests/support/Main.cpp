@@ -2,9 +2,13 @@
 
 #include <cstdlib>
 
-/// All test programs see the same fonts, which must be settled before any is looked for.
+#include "vxgui/platform/forms.h"
+
+/// All test programs see the same fonts, which must be settled before any is looked for, and no
+/// window of a toolkit that happens to be installed.
 int main(int argc, char** argv) {
     setenv("FONTCONFIG_FILE", VXGUI_SOURCE_DIR "/tests/data/fonts.conf", 1);
+    vxgui::forms::SetToolkit(nullptr);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -36,6 +36,13 @@ public:
     /// none.
     bool GetPictureBits(const Ref<ole::Picture>& pic, ByteArray& abPic);
 
+    /// The file kinds of the open-picture dialog, "name:patterns|name:patterns".
+    String PictureFileFilter() const;
+    /// Asks the user for a picture file; false when none was chosen. An empty caption is the
+    /// dialog's own. The next call opens on the kind of file that was chosen last.
+    bool ShowOpenPictureFile(String& picFileName, int32_t Owner = -1,
+                             const String& dlgCaption = {});
+
     /// Blends a rectangle of one context over one of another, by the blits that the switch says.
     /// Answers 0, whatever happens.
     int32_t AlphaBlend(gdi::HDC hdcDst, int32_t nXOriginDst, int32_t nYOriginDst, int32_t nWidthDst,

@@ -1,6 +1,7 @@
 #include "vxgui/frame/Report.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 #include "vxgui/frame/modGdiplus.h"
+#include "vxgui/image/PictureFileDialog.h"
 #include "vxgui/image/PictureOperations.h"
 
 namespace vxgui {
@@ -64,6 +65,13 @@ gdiplus::GpImage* VxGuiGlobal::GdipLoadImageFromFile(const String& Filename) {
     gdiplus::GpImage* image = nullptr;
     const auto status = flat::GdipLoadImageFromFile(Filename.units().c_str(), &image);
     return status == gdiplus::Ok ? image : nullptr;
+}
+
+String VxGuiGlobal::PictureFileFilter() const { return vxgui::PictureFileFilter(); }
+
+bool VxGuiGlobal::ShowOpenPictureFile(String& picFileName, int32_t Owner,
+                                      const String& dlgCaption) {
+    return vxgui::ShowOpenPictureFile(picFileName, Owner, dlgCaption);
 }
 
 }  // namespace vxgui

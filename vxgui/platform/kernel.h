@@ -63,8 +63,8 @@ VXPLATFORM_API Kernel* SetKernel(Kernel* kernel);
 /// The real kernel, for tests that change one answer and pass on the rest.
 VXPLATFORM_API Kernel& RealKernel();
 
-/// Shows a message box for the real kernel and answers the button. Without one the text goes to
-/// the standard error stream.
+/// Shows a message box for the real kernel and answers the button. Without one the form toolkit
+/// does, where there is one; else the text goes to the standard error stream.
 using MessageBoxFunction = int (*)(const String& text, const String& caption, UINT style);
 /// A form toolkit that can show boxes sets its function here; null takes it away.
 VXPLATFORM_API void SetMessageBoxFunction(MessageBoxFunction show);

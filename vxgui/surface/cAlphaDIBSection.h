@@ -200,6 +200,9 @@ public:
     /// of the last pixel of a row.
     virtual void AdjustRGB(float Red, float Green, float Blue, int32_t xStart = 0,
                            int32_t yStart = 0, int32_t xEnd = -1, int32_t yEnd = -1);
+    /// Opens the dialog that does it; false, with the pixels as they were, when it was cancelled or
+    /// no form toolkit can show it.
+    virtual bool ShowAdjustHLS();
     /// An adjustment's progress: X, Y, and a flag by which a listener stops `AdjustHLS`.
     Event<int32_t, int32_t, bool&> PreviewAdjust;
 
@@ -259,6 +262,7 @@ private:
     AlphaState alphaState_ = AlphaState::Unknown;
     /// What `BeginAdjustColor` keeps, row by row of memory; null when no transaction is open.
     std::shared_ptr<Snapshot> snapshot_;
+    Ref<Object> dialog_;  ///< a frmAdjustHLS once it has been shown
     uint32_t flags_ = kUseDrawDib | kUseMsImag32;
 };
 

@@ -2,6 +2,7 @@
 
 #include "vxgui/base/Error.h"
 #include "vxgui/colour/IColorAdjust.h"
+#include "vxgui/platform/forms.h"
 #include "vxgui/surface/HlsAdjustment.h"
 #include "vxgui/surface/PixelRectangle.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
@@ -80,7 +81,9 @@ void cAlphaDIBSection::AdjustHLS(float hue, float Luminance, float Saturation, b
     for (int32_t row = area.highRow; row >= area.lowRow && !cancel; --row) {
         // Listeners may have given the surface other pixels.
         adjustment.Apply(GetARGBArray().Run(row, area.left, area.right));
-        if (bRaiseEvent == 2) RaisePreview(area.right, row + 1, cancel);
+        if (bRaiseEvent != 2) continue;
+        forms::PumpEvents();  // so that a host's windows stay alive meanwhile
+        RaisePreview(area.right, row + 1, cancel);
     }
     if (bRaiseEvent == 1) RaisePreview(area.right, area.lowRow + 1, cancel);
 }

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "vxgui/platform/kernel/Folders.h"
+#include "vxgui/platform/forms.h"
 #include "vxgui/platform/kernel/ModuleTable.h"
 
 namespace vxgui::kernel {
@@ -52,7 +53,10 @@ public:
 
     int MessageBox(const String& text, const String& caption, UINT style) override {
         const MessageBoxFunction show = gMessageBox;
-        return show ? show(text, caption, style) : PrintMessage(text, caption);
+        if (show) return show(text, caption, style);
+        forms::Toolkit* const toolkit = forms::UsableToolkit();
+        return toolkit ? toolkit->MessageBox(text.view(), caption.view(), style)
+                       : PrintMessage(text, caption);
     }
 
     void ExitProcess(UINT code) override {
