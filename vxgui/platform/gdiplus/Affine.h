@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "vxgui/platform/gdiplus_types.h"
 
 namespace vxgui::gdiplus {
@@ -17,7 +19,21 @@ struct Affine {
     }
     REAL Determinant() const { return m11 * m22 - m12 * m21; }
     bool operator==(const Affine&) const = default;
+
+    static constexpr Affine Translation(REAL dx, REAL dy) { return {1, 0, 0, 1, dx, dy}; }
+    static constexpr Affine Scaling(REAL x, REAL y) { return {x, 0, 0, y, 0, 0}; }
+    static constexpr Affine Shearing(REAL x, REAL y) { return {1, y, x, 1, 0, 0}; }
+    /// Clockwise on a screen, whose y grows downwards.
+    static Affine Rotation(REAL degrees);
 };
+
+/// None when the matrix flattens the plane or isn't finite.
+std::optional<Affine> Inverse(const Affine& matrix);
+/// Takes the rectangle to the parallelogram of three corners: upper left, upper right, lower left.
+/// None for a rectangle without area.
+std::optional<Affine> RectToParallelogram(const GpRectF& rect, const GpPointF corners[3]);
+/// The factor by which lengths grow, over all directions.
+REAL MeanScale(const Affine& matrix);
 
 /// First `a`, then `b`.
 constexpr Affine operator*(const Affine& a, const Affine& b) {
@@ -26,6 +42,9 @@ constexpr Affine operator*(const Affine& a, const Affine& b) {
             a.dx * b.m11 + a.dy * b.m21 + b.dx, a.dx * b.m12 + a.dy * b.m22 + b.dy};
 }
 
+constexpr bool IsOrder(MatrixOrder order) {
+    return order == MatrixOrderPrepend || order == MatrixOrderAppend;
+}
 /// `change` before `base` or after it.
 constexpr Affine Combined(const Affine& base, const Affine& change, MatrixOrder order) {
     return order == MatrixOrderAppend ? base * change : change * base;

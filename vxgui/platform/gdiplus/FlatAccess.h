@@ -33,6 +33,12 @@ GpStatus FlatSet(const void* handle, Set set) noexcept {
     });
 }
 
+/// Ends the handle of an object of kind `T`.
+template <class T>
+GpStatus FlatDelete(const void* handle) noexcept {
+    return FlatOn<T>(handle, [&](T&) { return RetireObject(handle) ? Ok : InvalidParameter; });
+}
+
 /// Enters a new object as the handle that a creating function hands out.
 template <class Handle>
 GpStatus HandOut(Handle** result, Ref<FlatObject> object) {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "vxgui/platform/gdiplus/Affine.h"
 #include "vxgui/platform/gdiplus/FlatObject.h"
-#include "vxgui/platform/gdiplus_types.h"
 
 namespace vxgui::gdiplus {
 
@@ -11,12 +11,34 @@ namespace vxgui::gdiplus {
 struct PathPoints {
     std::vector<GpPointF> points;
     std::vector<BYTE> types;  ///< of `PathPointType`
+
+    size_t Count() const { return points.size(); }
+    bool IsEmpty() const { return points.empty(); }
+    /// `PathPointTypeStart`, `...Line` or `...Bezier` of a point.
+    BYTE Kind(size_t index) const { return types[index] & PathPointTypePathTypeMask; }
+    bool Closes(size_t index) const { return (types[index] & PathPointTypeCloseSubpath) != 0; }
+    bool EndsClosed() const { return !IsEmpty() && Closes(Count() - 1); }
+    void Add(GpPointF point, int type) {
+        points.push_back(point);
+        types.push_back(static_cast<BYTE>(type));
+    }
+    void Transform(const Affine& matrix) {
+        for (GpPointF& point : points) point = matrix.Apply(point);
+    }
 };
+
+/// True when the path begins with a start, has no unknown kinds and its Bezier points come in
+/// threes.
+bool IsWellFormed(const PathPoints& path);
+
+/// The smallest box around all points, those that steer curves included.
+GpRectF BoundsOfPoints(const std::vector<GpPointF>& points);
 
 /// What a path handle names.
 class Path final : public FlatObject {
 public:
     explicit Path(FillMode mode) : fillMode(mode) {}
+    Ref<Path> Clone() const;
 
     FillMode fillMode;
     PathPoints data;

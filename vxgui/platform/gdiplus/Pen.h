@@ -6,15 +6,10 @@
 
 namespace vxgui::gdiplus {
 
-/// What a pen handle names.
-class Pen final : public FlatObject {
-public:
-    Pen(Ref<Brush> brush, REAL width, Unit unit)
-        : brush(std::move(brush)), width(width), unit(unit) {}
-
-    Ref<Brush> brush;  ///< the pen's own
-    REAL width;
-    Unit unit;
+/// What a pen is besides its paint.
+struct PenSettings {
+    REAL width = 1;
+    Unit unit = UnitWorld;
     LineCap startCap = LineCapFlat, endCap = LineCapFlat;
     DashCap dashCap = DashCapFlat;
     LineJoin lineJoin = LineJoinMiter;
@@ -23,8 +18,17 @@ public:
     Affine transform;
     DashStyle dashStyle = DashStyleSolid;
     REAL dashOffset = 0;
-    std::vector<REAL> dashes;    ///< in pen widths
+    std::vector<REAL> dashes;    ///< in pen widths; empty for a solid line
     std::vector<REAL> compound;  ///< shares of the width, ascending, from 0 to 1
+};
+
+/// What a pen handle names.
+class Pen final : public FlatObject, public PenSettings {
+public:
+    Pen(Ref<Brush> brush, PenSettings settings)
+        : PenSettings(std::move(settings)), brush(std::move(brush)) {}
+
+    Ref<Brush> brush;  ///< the pen's own
 };
 
 }  // namespace vxgui::gdiplus

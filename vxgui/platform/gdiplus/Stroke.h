@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cairo.h>
+
 #include "vxgui/platform/gdiplus/Path.h"
 #include "vxgui/platform/gdiplus/Pen.h"
 
@@ -8,8 +10,7 @@ namespace vxgui::gdiplus {
 /// What units of length mean where a stroke is drawn.
 struct StrokePlace {
     Affine worldToDevice;
-    REAL dpi = 96;            ///< of the device
-    REAL pixelsPerWorld = 1;  ///< of the page alone: a pen in world units scales with the world
+    REAL dpi = 96;  ///< of the device: pens in units of length don't scale with the world
 };
 
 /// Appends a path to the current path of a context whose user space is the world.
@@ -17,9 +18,10 @@ void AppendPath(cairo_t* cairo, const PathPoints& path);
 
 /// Strokes `path` with the pen's geometry (caps, anchors, joins, dashes, compound, inset, unit and
 /// transform) with the source that is set. The context's user space is the world.
-void StrokePath(cairo_t* cairo, const Pen& pen, const PathPoints& path, const StrokePlace& place);
+void StrokePath(cairo_t* cairo, const PenSettings& pen, const PathPoints& path,
+                const StrokePlace& place);
 
 /// The box that `StrokePath` stays in, in world coordinates.
-GpRectF StrokeBounds(const Pen& pen, const PathPoints& path, const StrokePlace& place);
+GpRectF StrokeBounds(const PenSettings& pen, const PathPoints& path, const StrokePlace& place);
 
 }  // namespace vxgui::gdiplus

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus/Stroke.h"
+
+namespace vxgui::gdiplus {
+
+/// A pen where it draws: strokes are computed in a space in which its nib is round.
+struct Nib {
+    Affine space;  ///< to the world; no shift
+    Affine toSpace;
+    REAL width;  ///< in that space, at least a pixel on the device
+};
+
+/// None for a pen that is flattened to nothing.
+std::optional<Nib> NibOf(const PenSettings& pen, const StrokePlace& place);
+
+/// How far from the path a stroke reaches, in half widths.
+REAL ReachOf(const PenSettings& pen, bool hasJoins);
+
+}  // namespace vxgui::gdiplus
