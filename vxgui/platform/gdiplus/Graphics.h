@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "vxgui/platform/gdiplus/Brush.h"
+#include "vxgui/platform/gdiplus/Clip.h"
+#include "vxgui/platform/gdiplus/DrawingTarget.h"
 
 namespace vxgui::gdiplus {
 
@@ -15,28 +17,17 @@ struct GraphicsState {
     Affine world;
     Unit pageUnit = UnitDisplay;
     REAL pageScale = 1;
+    Affine container;  ///< from the page's pixels to the target's; a shift or more in a container
     CompositingMode compositingMode = CompositingModeSourceOver;
     CompositingQuality compositingQuality = CompositingQualityDefault;
     SmoothingMode smoothingMode = SmoothingModeNone;
     InterpolationMode interpolationMode = InterpolationModeBilinear;
-    PixelOffsetMode pixelOffsetMode = PixelOffsetModeNone;
+    PixelOffsetMode pixelOffsetMode = PixelOffsetModeDefault;
     TextRenderingHint textRenderingHint = TextRenderingHintSystemDefault;
     UINT textContrast = 4;
     GpPoint renderingOrigin{0, 0};
-};
-
-/// The pixels that a graphics draws on.
-class DrawingTarget {
-public:
-    virtual ~DrawingTarget() = default;
-    virtual INT Width() const = 0;
-    virtual INT Height() const = 0;
-    virtual REAL DpiX() const { return 96; }
-    virtual REAL DpiY() const { return 96; }
-    /// A premultiplied 32-bit surface over the whole target, which shows its pixels within `area`;
-    /// what is drawn there reaches the target at `End`. Null when memory is out.
-    virtual cairo_surface_t* Begin(const GpRect& area) = 0;
-    virtual void End(const GpRect& area) = 0;
+    Clip clip;
+    Clip outerClip;  ///< of the containers around
 };
 
 /// What a graphics handle names.
@@ -47,21 +38,54 @@ public:
     using Draw = std::function<void(cairo_t*)>;
     /// Runs `draw` on a context whose user space is the world (page unit and scale included), with
     /// the clip, the operator of the compositing mode and the antialiasing of the smoothing mode
-    /// set. Nothing outside `bounds`, a box in world coordinates, may be drawn.
+    /// set. What would be drawn more than a pixel outside `bounds`, a box in world coordinates, is
+    /// lost. Pixel (0, 0) covers the square from (0, 0) to (1, 1) of the device.
     GpStatus Paint(const GpRectF& bounds, const Draw& draw);
-    /// The same in device pixels: user space is the device, and the world does not count.
+    /// The same in device pixels: user space is the device, and the world does not count. Nothing
+    /// is drawn outside `bounds`.
     GpStatus PaintDevice(const GpRect& bounds, const Draw& draw);
+    /// Makes a brush the source of a context whose user space is the world. `device` is the box of
+    /// pixels that will be painted.
+    void SetSource(cairo_t* cairo, const Brush& brush, const GpRect& device) const;
     /// Fills the current path of a context of `Paint` with a brush.
-    void Fill(cairo_t* cairo, const Brush& brush, const GpRect& device);
+    void Fill(cairo_t* cairo, const Brush& brush, const GpRect& device) const;
 
     Affine PageToDevice() const;
     Affine WorldToDevice() const;
+    /// The pixels that a box in world coordinates touches, one more on each side.
+    GpRect DeviceBox(const GpRectF& world) const;
+    /// The part of `device` that the target, its clip and the graphics' own clip leave.
+    GpRect Drawable(const GpRect& device) const;
+    /// How far the middles of pixels lie from where shapes are sampled: by default a pixel is
+    /// sampled at its upper left corner, so that shapes move by half a pixel.
+    double ShapeOffset() const;
+    bool Antialiases() const;
+
     DrawingTarget& Target() const { return *target_; }
+    /// Why nothing may be done with the graphics now, or Ok.
+    GpStatus Ready() const;
+
+    /// Numbers of saved states are never 0.
+    UINT Save();
+    bool Restore(UINT id);
 
     GraphicsState state;
+    /// The device context that is handed out; nothing may be drawn meanwhile.
+    gdi::HDC lentDc = nullptr;
 
 private:
+    struct Saved {
+        UINT id;
+        GraphicsState state;
+    };
+
+    void ClipTo(cairo_t* cairo, const GpRect& area) const;
+    void Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) const;
+    GpStatus PaintArea(const GpRect& device, const Affine& user, const Draw& draw);
+
     std::unique_ptr<DrawingTarget> target_;
+    std::vector<Saved> saved_;
+    UINT lastId_ = 0;
 };
 
 }  // namespace vxgui::gdiplus

@@ -1,0 +1,58 @@
+#include "vxgui/platform/gdiplus/graphics/BitmapTarget.h"
+
+namespace vxgui::gdiplus {
+
+// Only aligned words of premultiplied pixels can be drawn on where they stand. Memory and its
+// form may change between two drawings.
+cairo_surface_t* BitmapTarget::Cover() {
+    constexpr uintptr_t kWord = 4;
+    if (bitmap_->Format() != PixelFormat32bppPARGB) return nullptr;
+    if (reinterpret_cast<uintptr_t>(bitmap_->Row(0)) % kWord != 0) return nullptr;
+    if (!surface_ || covered_ != bitmap_->Row(0)) {
+        surface_ = SurfaceOver(bitmap_->Row(0), Width(), Height(), bitmap_->Stride());
+        covered_ = bitmap_->Row(0);
+    }
+    if (surface_) cairo_surface_mark_dirty(surface_.get());
+    return surface_.get();
+}
+
+cairo_surface_t* BitmapTarget::Begin(const GpRect& area) {
+    cairo_surface_t* const surface = Cover();
+    direct_ = surface != nullptr;
+    if (direct_) return surface;
+    return scratch_.Open(area, [&](INT x, INT y, std::span<ARGB> pixels) {
+        bitmap_->ReadPremultiplied(x, y, pixels);
+    });
+}
+
+void BitmapTarget::End(const GpRect&) {
+    if (direct_) {
+        cairo_surface_flush(surface_.get());
+    } else {
+        scratch_.Close([&](INT x, INT y, std::span<const ARGB> pixels) {
+            bitmap_->WritePremultiplied(x, y, pixels);
+        });
+    }
+}
+
+void BitmapTarget::Store(const GpRect& area, ARGB color) {
+    const std::vector<ARGB> row(static_cast<size_t>(area.Width), color);
+    for (INT y = area.Y; y < area.Y + area.Height; ++y) bitmap_->WriteStraight(area.X, y, row);
+}
+
+gdi::HDC BitmapTarget::LendDc() {
+    lent_.emplace(Width(), Height());
+    for (INT y = 0; y < Height() && lent_->Dc(); ++y)
+        bitmap_->ReadPremultiplied(0, y, lent_->Row(y));
+    lent_->Mark();
+    return lent_->Dc();
+}
+
+void BitmapTarget::TakeBack(gdi::HDC) {
+    lent_->ForEachChange([&](INT x, INT y, ARGB pixel) {
+        bitmap_->WritePremultiplied(x, y, {&pixel, 1});
+    });
+    lent_.reset();
+}
+
+}  // namespace vxgui::gdiplus

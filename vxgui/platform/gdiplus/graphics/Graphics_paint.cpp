@@ -1,0 +1,103 @@
+#include "vxgui/platform/gdiplus/DeviceBox.h"
+#include "vxgui/platform/gdiplus/Graphics.h"
+
+namespace vxgui::gdiplus {
+namespace {
+
+struct ContextRelease {
+    void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+};
+using Context = std::unique_ptr<cairo_t, ContextRelease>;
+
+// Keeps a target open.
+class Opened {
+public:
+    Opened(DrawingTarget& target, const GpRect& area)
+        : target_(target), area_(area), surface_(target.Begin(area)) {}
+    ~Opened() {
+        if (surface_) target_.End(area_);
+    }
+    Opened(const Opened&) = delete;
+    Opened& operator=(const Opened&) = delete;
+
+    cairo_surface_t* Surface() const { return surface_; }
+
+private:
+    DrawingTarget& target_;
+    const GpRect area_;
+    cairo_surface_t* const surface_;
+};
+
+void ClipToBox(cairo_t* cairo, const GpRect& box) {
+    cairo_rectangle(cairo, box.X, box.Y, box.Width, box.Height);
+    cairo_clip(cairo);
+}
+
+void ClipToPixels(cairo_t* cairo, const gdi::PixelRegion* clip, const GpRect& area) {
+    if (!clip || clip->Kind() == gdi::SIMPLEREGION) return;  // the area lies inside
+    for (const pixman_box32_t& box : clip->BoxesInRows(area.Y, area.Y + area.Height)) {
+        cairo_rectangle(cairo, box.x1, box.y1, box.x2 - box.x1, box.y2 - box.y1);
+    }
+    cairo_clip(cairo);
+}
+
+}  // namespace
+
+void Graphics::ClipTo(cairo_t* cairo, const GpRect& area) const {
+    ClipToBox(cairo, area);
+    ClipToPixels(cairo, target_->Clip(), area);
+    ClipToPixels(cairo, state.clip.Pixels(), area);
+    ClipToPixels(cairo, state.outerClip.Pixels(), area);
+}
+
+void Graphics::Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) const {
+    ClipTo(cairo, area);
+    const bool copy = state.compositingMode == CompositingModeSourceCopy;
+    cairo_set_operator(cairo, copy ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER);
+    cairo_set_antialias(cairo, Antialiases() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+    const cairo_matrix_t matrix = ToCairo(user);
+    cairo_set_matrix(cairo, &matrix);
+}
+
+GpStatus Graphics::PaintArea(const GpRect& device, const Affine& user, const Draw& draw) {
+    const GpRect area = Drawable(device);
+    // A world that has no area can't show anything.
+    if (IsEmpty(area) || !(std::abs(user.Determinant()) > 0)) return Ok;
+    const Opened opened(*target_, area);
+    if (!opened.Surface()) return OutOfMemory;
+    const Context cairo(cairo_create(opened.Surface()));
+    Prepare(cairo.get(), area, user);
+    draw(cairo.get());
+    const cairo_status_t status = cairo_status(cairo.get());
+    return status == CAIRO_STATUS_SUCCESS     ? Ok
+           : status == CAIRO_STATUS_NO_MEMORY ? OutOfMemory
+                                              : GenericError;
+}
+
+GpStatus Graphics::Paint(const GpRectF& bounds, const Draw& draw) {
+    return PaintArea(DeviceBox(bounds), WorldToDevice(), draw);
+}
+
+GpStatus Graphics::PaintDevice(const GpRect& bounds, const Draw& draw) {
+    return PaintArea(bounds, {}, draw);
+}
+
+void Graphics::SetSource(cairo_t* cairo, const Brush& brush, const GpRect& device) const {
+    ARGB color;
+    if (brush.IsSolid(&color)) {
+        cairo_set_source_rgba(cairo, (color >> 16 & 255) / 255.0, (color >> 8 & 255) / 255.0,
+                              (color & 255) / 255.0, (color >> 24) / 255.0);
+        return;
+    }
+    const Pattern pattern =
+        brush.MakePattern({WorldToDevice(), Drawable(device), state.renderingOrigin});
+    if (!pattern) throw std::bad_alloc();
+    cairo_set_source(cairo, pattern.get());
+}
+
+void Graphics::Fill(cairo_t* cairo, const Brush& brush, const GpRect& device) const {
+    SetSource(cairo, brush, device);
+    cairo_fill(cairo);
+}
+
+}  // namespace vxgui::gdiplus
