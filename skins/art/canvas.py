@@ -76,6 +76,13 @@ def strip(frames, vertical=False):
     return whole
 
 
+def turned(canvas):
+    """The picture with its two directions exchanged: what ran across runs down."""
+    other = Canvas(canvas.height, canvas.width)
+    other.pixels = [list(column) for column in zip(*canvas.pixels)]
+    return other
+
+
 def byte(value):
     return max(0, min(255, int(value * 255 + 0.5)))
 
@@ -134,6 +141,10 @@ def everywhere():
     return lambda x, y: -1e9
 
 
+def union(*shapes):
+    return lambda x, y: min(shape(x, y) for shape in shapes)
+
+
 def inset(shape, by):
     return lambda x, y: shape(x, y) + by
 
@@ -177,6 +188,11 @@ def ramp(stops, t):
 def down(top, bottom, stops):
     """A gradient from y `top` to y `bottom`."""
     return lambda x, y: ramp(stops, (y - top) / (bottom - top))
+
+
+def fade(text, start, end, top, bottom):
+    """One colour whose strength runs from `start` at y `top` to `end` at y `bottom`."""
+    return down(top, bottom, [(0, colour(text, start)), (1, colour(text, end))])
 
 
 def across(left, right, stops):

@@ -7,6 +7,11 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 cmake --install "$build" --prefix "$work/usr" >/dev/null
+# The tool finds the styles that were installed with it, wherever that is, and not the build's.
+mkdir "$work/elsewhere"
+if [ -x "$work/usr/bin/vxgui" ] && [ -n "$(find "$work/usr/share" -name DefaultStyles.dll)" ]; then
+    (cd "$work/elsewhere" && "$work/usr/bin/vxgui" gallery res:DefaultStyles:blue --desktop -o blue.png)
+fi
 cp -r "$source/tests/consumer" "$work/project"
 
 cmake -S "$work/project" -B "$work/by-cmake" -DCMAKE_PREFIX_PATH="$work/usr" >/dev/null

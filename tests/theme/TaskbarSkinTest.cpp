@@ -271,6 +271,18 @@ TEST_F(TaskbarSkin, TheModuleIsLookedForInTheSkinsFolderAndInThePrograms) {
     EXPECT_THAT(world.kernel.calls, Not(Contains("load /skin/DefaultStyles.dll")));
 }
 
+TEST_F(TaskbarSkin, TheModuleIsLookedForLastWithTheLibrarysOwnData) {
+    for (const char* folder : {"../../share/vxgui", "../share/vxgui", "share/vxgui"}) {
+        const std::string path = std::string("/opt/host/") + folder + "/" + kModule;
+        AddStyle("blue", path);
+        EXPECT_EQ(Start("res:DefaultStyles:blue"), "blue");
+        EXPECT_THAT(world.kernel.calls, Contains("load " + path));
+    }
+    AddStyle("blue", "/skin/DefaultStyles.dll");
+    skin->SkinPath("/skin");
+    EXPECT_EQ(FindStyleModule(kModule, "/skin"), "/skin/DefaultStyles.dll");
+}
+
 TEST_F(TaskbarSkin, WithoutAModuleStaysUsableAndEmpty) {
     AddSkin("[Style]\nName=uis\n", "");
     EXPECT_EQ(Start("skin.uis"), "");

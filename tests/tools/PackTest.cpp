@@ -1,14 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
 
 #include "tests/support/TemporaryFolder.h"
-#include "tools/vxgui/Tool.h"
+#include "tests/tools/ToolCall.h"
 #include "vxgui/platform/kernel.h"
 
 namespace vxgui::tool {
@@ -85,16 +84,6 @@ TEST_P(Module, PackedAgainIsTheSameToTheByte) {
     ASSERT_EQ(Run(arguments), 0) << errors_.str();
     const auto files = FilesOf(".");
     EXPECT_EQ(files.at("Styles.dll"), files.at("again.dll"));
-}
-
-std::string OutputOf(const std::string& command) {
-    std::string output;
-    FILE* pipe = ::popen(command.c_str(), "r");
-    char buffer[4096];
-    while (const size_t count = std::fread(buffer, 1, sizeof buffer, pipe))
-        output.append(buffer, count);
-    ::pclose(pipe);
-    return output;
 }
 
 TEST_P(Module, IsReadByAnIndependentReader) {

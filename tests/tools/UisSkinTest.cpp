@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cctype>
+
+#include "tests/support/Golden.h"
 #include "tests/tools/ToolCall.h"
 
 namespace vxgui::tool {
@@ -35,6 +38,62 @@ TEST(UisSkin, StyleThatNoModuleHasIsRefused) {
         EXPECT_EQ(result.status, 1);
         EXPECT_THAT(result.errors, HasSubstr(std::string(style) + ": error: "));
     }
+}
+
+#ifdef VXGUI_STYLES_FOLDER
+
+class DefaultStyle : public testing::TestWithParam<const char*> {
+protected:
+    const std::string reference = std::string("res:DefaultStyles:") + GetParam();
+};
+INSTANTIATE_TEST_SUITE_P(Each, DefaultStyle, testing::Values("blue", "homestead", "metallic"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_P(DefaultStyle, ShowsAllItsPartsInAGallery) {
+    const Result result = Gallery(reference);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.out, HasSubstr("33 items"));
+}
+
+TEST_P(DefaultStyle, ShowsItsPartsTogether) {
+    const std::string path = Folder() + "desktop.png";
+    const Result result = Call({"gallery", reference, "--desktop", "-o", path});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    test::TestPicture desktop;
+    ASSERT_TRUE(test::ReadPng(path, &desktop));
+    // The free end of the taskbar is the part by itself.
+    ASSERT_EQ(Call({"render", reference, "--item", "Taskbar.TrayHorz", "--size", "150x34", "-o",
+                    Folder() + "tray.png"})
+                  .status,
+              0);
+    test::TestPicture tray;
+    ASSERT_TRUE(test::ReadPng(Folder() + "tray.png", &tray));
+    for (int y = 2; y < 34; ++y) EXPECT_EQ(desktop.At(930, 566 + y), tray.At(80, y)) << y;
+}
+
+TEST_P(DefaultStyle, IsReadFromItsModuleByAnIndependentReader) {
+    if (OutputOf("command -v wrestool").empty())
+        GTEST_SKIP() << "wrestool, of the package icoutils, is not installed";
+    const std::string folder = VXGUI_STYLES_FOLDER;
+    const std::string module = folder + "/../share/vxgui/DefaultStyles.dll";
+    for (const std::string ending : {".INI", "TaskBar.INI"}) {
+        const std::string name = GetParam() + ending;
+        std::string capitals = name;
+        for (char& c : capitals) c = static_cast<char>(std::toupper(c));
+        const ByteArray text = BytesOfFile(folder + "/TxtFiles/" + name);
+        EXPECT_FALSE(text.empty());
+        EXPECT_EQ(OutputOf("wrestool -x --raw -t TXTFILES -n " + capitals + " '" + module + "'"),
+                  std::string(text.begin(), text.end()));
+    }
+}
+
+#endif
+
+TEST(Desktop, OfAThemeSetIsRefused) {
+    const Result result = Call({"gallery", VXGUI_SOURCE_DIR "/skins/aurora/aurora.theme",
+                                "--desktop", "-o", Folder() + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("a theme set has no taskbar"));
 }
 
 }  // namespace

@@ -3,9 +3,11 @@
 #include <memory>
 
 #include "tools/vxgui/Commands.h"
+#include "tools/vxgui/DesktopScene.h"
 #include "tools/vxgui/GalleryLayout.h"
 #include "tools/vxgui/Sheet.h"
 #include "tools/vxgui/Skin.h"
+#include "tools/vxgui/ToolError.h"
 
 namespace vxgui::tool {
 namespace {
@@ -13,6 +15,7 @@ namespace {
 struct Options {
     std::string skin;
     std::string output;
+    bool desktop = false;
 };
 
 constexpr uint32_t kPaper = 0xFFF4F6F8;
@@ -49,8 +52,7 @@ void PaintCell(Sheet& sheet, const GalleryCard& card, const GalleryCell& cell) {
                         bottom);
 }
 
-void PaintGallery(const Options& options, std::ostream& out) {
-    const Skin skin = LoadSkin(options.skin);
+void PaintCards(const Skin& skin, const Options& options, std::ostream& out) {
     const GalleryPage page = LayOutGallery(skin);
     Sheet sheet(page.width, page.height);
     sheet.Fill(kPaper);
@@ -65,6 +67,21 @@ void PaintGallery(const Options& options, std::ostream& out) {
         << page.height << "\n";
 }
 
+void PaintScene(const Skin& skin, const Options& options, std::ostream& out) {
+    if (!skin.desktop)
+        Fail(options.skin, "a theme set has no taskbar; a skin in the UIS dialect was expected");
+    Sheet sheet(kSceneWidth, kSceneHeight);
+    PaintDesktop(sheet, skin);
+    sheet.MakeOpaque();
+    sheet.WritePng(options.output);
+    out << options.output << ": " << kSceneWidth << "x" << kSceneHeight << "\n";
+}
+
+void PaintGallery(const Options& options, std::ostream& out) {
+    const Skin skin = LoadSkin(options.skin);
+    (options.desktop ? PaintScene : PaintCards)(skin, options, out);
+}
+
 }  // namespace
 
 void AddGallery(CLI::App& app, std::ostream& out) {
@@ -73,7 +90,12 @@ void AddGallery(CLI::App& app, std::ostream& out) {
         app.add_subcommand("gallery", "Paint every item of a skin in every state, at three sizes");
     command->add_option("SKIN", options->skin, kSkinHelp)->required();
     command->add_option("-o,--output", options->output, "PNG file to write")->required();
-    command->footer("Example:\n  vxgui gallery skins/aurora/aurora.theme -o gallery.png");
+    command->add_flag("--desktop", options->desktop,
+                      "Paint the parts of a taskbar skin as they stand together instead");
+    command->footer(
+        "Examples:\n"
+        "  vxgui gallery skins/aurora/aurora.theme -o gallery.png\n"
+        "  vxgui gallery res:DefaultStyles:metallic --desktop -o metallic.png");
     command->callback([options, &out] { PaintGallery(*options, out); });
 }
 
