@@ -13,22 +13,6 @@ constexpr BYTE kFamilyMask = 0xF0;
 constexpr BYTE kRoman = 0x10;
 constexpr BYTE kModern = 0x30;
 
-/// What stands in for a face that isn't there.
-const char* GenericFamily(const LOGFONTA& font) {
-    const BYTE family = font.lfPitchAndFamily & kFamilyMask;
-    if (family == kModern || (font.lfPitchAndFamily & 3) == kFixedPitch) return "monospace";
-    return family == kRoman ? "serif" : "sans-serif";
-}
-
-/// The face name as UTF-8. A comma would separate two families, and a leading "@" asks for
-/// vertical forms, which the face has under its plain name.
-std::string FaceName(const LOGFONTA& font) {
-    const size_t length = strnlen(font.lfFaceName, sizeof font.lfFaceName);
-    std::string name = kernel::TextFromAnsi({font.lfFaceName, length}).Utf8();
-    for (char& c : name) c = c == ',' ? ' ' : c;
-    return name.starts_with('@') ? name.substr(1) : name;
-}
-
 struct Language {
     BYTE charSet;
     const char* codePage;
@@ -38,6 +22,19 @@ constexpr Language kLanguages[] = {
     {128, "CP932", "ja"}, {129, "CP949", "ko"}, {134, "CP936", "zh-cn"}, {136, "CP950", "zh-tw"}};
 
 }  // namespace
+
+const char* GenericFamily(const LOGFONTA& font) {
+    const BYTE family = font.lfPitchAndFamily & kFamilyMask;
+    if (family == kModern || (font.lfPitchAndFamily & 3) == kFixedPitch) return "monospace";
+    return family == kRoman ? "serif" : "sans-serif";
+}
+
+std::string FaceName(const LOGFONTA& font) {
+    const size_t length = strnlen(font.lfFaceName, sizeof font.lfFaceName);
+    std::string name = kernel::TextFromAnsi({font.lfFaceName, length}).Utf8();
+    for (char& c : name) c = c == ',' ? ' ' : c;
+    return name.starts_with('@') ? name.substr(1) : name;
+}
 
 PangoFontDescription* DescriptionOf(const LOGFONTA& font) {
     PangoFontDescription* description = pango_font_description_new();

@@ -1,9 +1,8 @@
 #include "vxgui/platform/gdi/text/RealizedFont.h"
 
-#include <fontconfig/fontconfig.h>
-
 #include <algorithm>
 
+#include "vxgui/platform/gdi/text/FaceFile.h"
 #include "vxgui/platform/gdi/text/FontChoice.h"
 #include "vxgui/platform/gdi/text/FontScale.h"
 #include "vxgui/platform/gdi/text/TextEngine.h"
@@ -16,18 +15,6 @@ const DesignMetrics kNoDesign;
 
 const DesignMetrics& DesignOf(const UsedFace& used) {
     return used.face ? used.face->Design() : kNoDesign;
-}
-
-FcPattern* PatternOf(PangoFont* font) {
-    FcPattern* pattern = nullptr;
-    g_object_get(font, "pattern", &pattern, nullptr);
-    return pattern;
-}
-
-int PatternInteger(FcPattern* pattern, const char* object, int fallback) {
-    int value = fallback;
-    FcPatternGetInteger(pattern, object, 0, &value);
-    return value;
 }
 
 bool SmoothingOff(const LOGFONTA& record) {
@@ -126,19 +113,15 @@ int32_t RealizedFont::Angle() const { return Turn(record_.lfEscapement); }
 
 UsedFace RealizedFont::Use(PangoFont* font) {
     UsedFace used;
-    FcPattern* pattern = PatternOf(font);
-    FcChar8* file = nullptr;
-    if (!pattern || FcPatternGetString(pattern, FC_FILE, 0, &file) != FcResultMatch) return used;
-    used.face =
-        engine_.OpenFace(reinterpret_cast<const char*>(file), PatternInteger(pattern, FC_INDEX, 0));
+    const auto file = FileOf(font);
+    if (!file) return used;
+    used.face = engine_.OpenFace(file->path, file->index);
     used.scale.em = measures_.em;
     used.scale.horizontal = horizontal_;
     used.scale.angle = Angle();
     used.scale.mono = SmoothingOff(record_);
-    used.scale.oblique =
-        record_.lfItalic && PatternInteger(pattern, FC_SLANT, FC_SLANT_ROMAN) == FC_SLANT_ROMAN;
-    used.scale.bold = record_.lfWeight >= kBoldFrom &&
-                      PatternInteger(pattern, FC_WEIGHT, FC_WEIGHT_REGULAR) < FC_WEIGHT_DEMIBOLD;
+    used.scale.oblique = record_.lfItalic && file->upright;
+    used.scale.bold = record_.lfWeight >= kBoldFrom && file->regular;
     return used;
 }
 
