@@ -1,5 +1,4 @@
-#include <new>
-
+#include "vxgui/base/Attempt.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 #include "vxgui/theme/ThemeSet.h"
 
@@ -36,12 +35,9 @@ Variant Run(const VariantArray& P) {
 }  // namespace
 
 Variant VxGuiGlobal::Execute(const VariantArray& P) {
-    try {
-        return Run(P);
-    } catch (const Error&) {
-    } catch (const std::bad_alloc&) {
-    }
-    return {};
+    Variant result;
+    Attempt([&] { result = Run(P); });
+    return result;
 }
 
 }  // namespace vxgui

@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "vxgui/base/Error.h"
+#include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/platform/codecs.h"
 #include "vxgui/platform/core7.h"
@@ -46,10 +46,6 @@ size_t ImageSize(const gdi::BITMAPINFOHEADER& header) {
 bool IsAllowed(const gdi::BITMAPINFOHEADER& header) {
     return codecs::ApartmentDecodeLimits().Allow(header.biWidth,
                                                  std::abs(int64_t{header.biHeight}));
-}
-
-void RequireBag(const Ref<ole::PropertyBag>& bag) {
-    if (!bag) throw Error(ErrorNumber::ObjectNotSet, kKey, "Object not set");
 }
 
 }  // namespace
@@ -126,18 +122,18 @@ void cAlphaDIBSection::Adopt(gdi::HDC dc, gdi::HBITMAP bitmap, void* bits,
 }
 
 void cAlphaDIBSection::WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags) {
-    RequireBag(PropBag);
+    ole::PropertyBag& bag = Require(PropBag, kKey);
     const bool compressed = Flags & 1;
     ByteArray buffer;
     ToByteArray(buffer, static_cast<int16_t>(Flags & 1));
-    if (!compressed) PropBag->WriteProperty(kCompressedKey, 0, 1);
-    PropBag->WriteProperty(kKey, compressed ? core7::Compress(buffer) : std::move(buffer));
+    if (!compressed) bag.WriteProperty(kCompressedKey, 0, 1);
+    bag.WriteProperty(kKey, compressed ? core7::Compress(buffer) : std::move(buffer));
 }
 
 void cAlphaDIBSection::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
-    RequireBag(PropBag);
-    const bool compressed = IntegerFrom(PropBag->ReadProperty(kCompressedKey, 1), kKey) != 0;
-    const Variant value = PropBag->ReadProperty(kKey);
+    const ole::PropertyBag& bag = Require(PropBag, kKey);
+    const bool compressed = IntegerFrom(bag.ReadProperty(kCompressedKey, 1), kKey) != 0;
+    const Variant value = bag.ReadProperty(kKey);
     const auto* stored = value.As<ByteArray>();
     if (!stored) return;
     if (!compressed || core7::GetSize(*stored) == 0) {

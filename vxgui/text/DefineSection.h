@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vxgui/base/Error.h"
+#include "vxgui/base/Require.h"
 #include "vxgui/platform/core7.h"
 
 namespace vxgui {
@@ -11,7 +11,7 @@ public:
     /// Raises for no file.
     DefineSection(const Ref<core7::DefineFile>& file, const String& name, const char* source)
         : file_(file), name_(name) {
-        if (!file_) throw Error(ErrorNumber::ObjectNotSet, source, "Object not set");
+        Require(file_, source);
     }
 
     String Text(const char* key, const String& fallback = {}) const {

@@ -1,4 +1,4 @@
-#include "vxgui/base/Error.h"
+#include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/text/LFont.h"
 #include "vxgui/text/TextStyle.h"
@@ -40,25 +40,25 @@ constexpr char kReading[] = "LFont.ReadProperties";
 
 void LFont::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
     const KeepAlive keep(this);
-    if (!propBag) throw Error(ErrorNumber::ObjectNotSet, kReading, "Object not set");
-    Name = TextFrom(propBag->ReadProperty("Name", String()), kReading);
+    const ole::PropertyBag& bag = Require(propBag, kReading);
+    Name = TextFrom(bag.ReadProperty("Name", String()), kReading);
     for (const auto& [key, field, fallback] : kIntegers) {
-        this->*field = IntegerFrom(propBag->ReadProperty(key, fallback), kReading);
+        this->*field = IntegerFrom(bag.ReadProperty(key, fallback), kReading);
     }
     for (const auto& [key, field, fallback] : kBytes) {
-        this->*field = ByteFrom(propBag->ReadProperty(key, fallback), kReading);
+        this->*field = ByteFrom(bag.ReadProperty(key, fallback), kReading);
     }
 }
 
 void LFont::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
     const KeepAlive keep(this);
-    if (!propBag) throw Error(ErrorNumber::ObjectNotSet, "LFont.WriteProperties", "Object not set");
-    propBag->WriteProperty("Name", Name, String());
+    ole::PropertyBag& bag = Require(propBag, "LFont.WriteProperties");
+    bag.WriteProperty("Name", Name, String());
     for (const auto& [key, field, fallback] : kIntegers) {
-        propBag->WriteProperty(key, this->*field, fallback);
+        bag.WriteProperty(key, this->*field, fallback);
     }
     for (const auto& [key, field, fallback] : kBytes) {
-        propBag->WriteProperty(key, int32_t{this->*field}, fallback);
+        bag.WriteProperty(key, int32_t{this->*field}, fallback);
     }
 }
 

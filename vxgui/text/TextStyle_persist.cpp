@@ -1,4 +1,4 @@
-#include "vxgui/base/Error.h"
+#include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/text/TextStyle.h"
 
@@ -30,20 +30,15 @@ constexpr Property kShadow[] = {
     {"ShadowOffsetY", &Style::ShadowOffsetY, 0},
 };
 
-/// Raises for no bag.
-void Check(const Ref<ole::PropertyBag>& bag, const char* source) {
-    if (!bag) throw Error(ErrorNumber::ObjectNotSet, source, "Object not set");
-}
-
 constexpr char kReading[] = "TextStyle.ReadProperties";
 
 }  // namespace
 
 void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
     const KeepAlive keep(this);
-    Check(propBag, kReading);
+    const ole::PropertyBag& bag = Require(propBag, kReading);
     const auto read = [&](const Property& property) {
-        const Variant stored = propBag->ReadProperty(property.key, property.fallback);
+        const Variant stored = bag.ReadProperty(property.key, property.fallback);
         this->*property.field = IntegerFrom(stored, kReading);
     };
     for (const Property& property : kText) read(property);
@@ -55,9 +50,9 @@ void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
 
 void TextStyle::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
     const KeepAlive keep(this);
-    Check(propBag, "TextStyle.WriteProperties");
+    ole::PropertyBag& bag = Require(propBag, "TextStyle.WriteProperties");
     const auto write = [&](const Property& property) {
-        propBag->WriteProperty(property.key, this->*property.field, property.fallback);
+        bag.WriteProperty(property.key, this->*property.field, property.fallback);
     };
     for (const Property& property : kText) write(property);
     write(kDrawStyle);

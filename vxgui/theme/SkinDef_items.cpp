@@ -1,5 +1,4 @@
-#include <new>
-
+#include "vxgui/base/Attempt.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/SkinParts.h"
 #include "vxgui/theme/StyleModule.h"
@@ -49,11 +48,7 @@ void SkinDef::XPTaskbarItemNames(std::vector<String>& Names, int32_t& Last) {
 
 // One bad part costs only that part.
 void SkinDef::LoadSkinItem(const UisSource& source, const String& name) {
-    try {
-        AddItem(name, ReadSkinItem(source, name));
-    } catch (const Error&) {
-    } catch (const std::bad_alloc&) {
-    }
+    Attempt([&] { AddItem(name, ReadSkinItem(source, name)); });
 }
 
 void SkinDef::LoadSkinItems() {
