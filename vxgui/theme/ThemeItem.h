@@ -210,6 +210,38 @@ public:
     /// Disabled, on opaque magenta.
     Ref<ThemeItem> CreateMenuArrow() const;
 
+    // Keeping. docs/formats.md has the keys.
+    /// What a reader is known to hold already isn't stored: `DefImage` as the image, `DefFont` as
+    /// the font of Normal, `DefTextStyle` as the style of Normal or Disabled. `Flags` are those of
+    /// the surfaces. Entries of states that say no more than Normal are dropped, here too.
+    void WriteProperties(const Ref<ole::PropertyBag>& PropBag,
+                         const Ref<cAlphaDIBSection>& DefImage = nullptr,
+                         const Ref<LFont>& DefFont = nullptr,
+                         const Ref<TextStyle>& DefTextStyle = nullptr, int32_t Flags = 0);
+    /// What the bag lacks takes the reader's defaults, except that images, fonts and styles stay.
+    /// A bag of an unknown version leaves the item as it is. A number that is none raises, with
+    /// the item partly read; an image, font or style that can't be read is left out.
+    void ReadProperties(const Ref<ole::PropertyBag>& PropBag);
+    /// The same for a bag of any version, without the direction that the first had in common for
+    /// both strips.
+    void ReadProperties_v1(const Ref<ole::PropertyBag>& PropBag);
+    /// Four keys that begin with `Name`.
+    static void WritePropertiesRECT(const Ref<ole::PropertyBag>& PropBag, const gdi::RECT& rc,
+                                    const String& Name);
+    static void ReadPropertiesRECT(const Ref<ole::PropertyBag>& PropBag, gdi::RECT& rc,
+                                   const String& Name);
+
+    // Copying and comparing.
+    /// A copy with surfaces, fonts and styles of its own, and of nothing that a bag doesn't keep.
+    /// Drops the source's entries of states that say no more than Normal.
+    Ref<ThemeItem> Clone();
+    /// Copies the groups that `Flags` (E_COPYTOFLAGS) name. Pictures are shared; so are fonts and
+    /// styles by reference. Never copied: frame tables, state, owner. The result is empty.
+    Variant CopyTo(const Ref<ThemeItem>& Value, uint32_t Flags);
+    /// Compares pictures by their pixels, and frames, fonts and styles as the states 0 to 7 draw
+    /// with them. This item's `GlyphAlign` is held against the other's `IconAlign`. False for none.
+    bool Equal(const Ref<ThemeItem>& Item);
+
     // Import.
     /// Reads the section `ItemName` of a UIS skin definition. Image and glyph are emptied first;
     /// a picture that isn't there leaves the item without one. A failure is shown to the user and
@@ -275,6 +307,20 @@ private:
     void ReadUisColours(const DefineSection& read);
     void ReadUisFonts(const DefineSection& read);
     void ReadUisAnimation(const DefineSection& read);
+    void WriteNumbers(ole::PropertyBag& bag) const;
+    void WriteStrips(ole::PropertyBag& bag, int32_t flags) const;
+    void WriteIcon(ole::PropertyBag& bag) const;
+    void WriteStates(ole::PropertyBag& bag, const Ref<LFont>& knownFont,
+                     const Ref<TextStyle>& knownStyle) const;
+    void ReadNumbers(const ole::PropertyBag& bag);
+    void ReadStrips(const ole::PropertyBag& bag);
+    void ReadStates(const ole::PropertyBag& bag);
+    void CopyImageProperties(ThemeItem& to) const;
+    void CopyGlyphProperties(ThemeItem& to);
+    bool EqualsInImage(const ThemeItem& other) const;
+    bool EqualsInGlyph(ThemeItem& other);
+    bool EqualsInIcon(const ThemeItem& other) const;
+    bool EqualsInState(const ThemeItem& other, int32_t state) const;
 
     int32_t state_ = 0;
     FrameTable frames_;
