@@ -13,6 +13,8 @@ using testing::HasSubstr;
 
 const std::string kBroken = VXGUI_SOURCE_DIR "/tests/data/broken/";
 
+const std::string kPorcelain = VXGUI_SOURCE_DIR "/skins/porcelain/porcelain.uis";
+
 Result Gallery(const std::string& skin) {
     return Call({"gallery", skin, "-o", Folder() + "uis.png"});
 }
@@ -30,6 +32,45 @@ TEST(UisSkin, WhoseTaskbarLacksAnImageIsRefusedWithItsPlace) {
     EXPECT_THAT(result.errors,
                 HasSubstr("broken.xp:29:1: error: image \"start.tga\" is not there"));
     EXPECT_THAT(result.errors, HasSubstr("broken.xp:86:1: error: neither a section"));
+}
+
+TEST(UisSkin, ShowsItsControlsItsPartsAndItsTaskbar) {
+    const Result result = Gallery(kPorcelain);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.out, HasSubstr("44 items"));  // 11 controls and 33 parts
+    const Result desktop = Call({"gallery", kPorcelain, "--desktop", "-o", Folder() + "d.png"});
+    EXPECT_EQ(desktop.status, 0) << desktop.errors;
+}
+
+test::TestPicture Rendered(const std::string& item, const std::string& state) {
+    const std::string path = Folder() + item + state + ".png";
+    const Result result = Call({"render", kPorcelain, "--item", item, "--state", state, "--size",
+                                "120x34", "--text", "Text", "-o", path});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    test::TestPicture picture;
+    EXPECT_TRUE(test::ReadPng(path, &picture));
+    return picture;
+}
+
+TEST(UisSkin, WritesCaptionsInTheColoursOfThePalette) {
+    // White on the pressed button's cobalt, and none of it on the disabled one's grey.
+    const auto whites = [](const test::TestPicture& picture) {
+        int count = 0;
+        for (int y = 10; y < 24; ++y) {
+            for (int x = 40; x < 80; ++x) count += picture.At(x, y) == 0xFFFFFFFF;
+        }
+        return count;
+    };
+    EXPECT_GT(whites(Rendered("Button", "Pressed")), 20);
+    EXPECT_EQ(whites(Rendered("Button", "Disabled")), 0);
+}
+
+TEST(UisSkin, NamesItsItemsWhenAnotherIsAskedFor) {
+    const Result result =
+        Call({"render", kPorcelain, "--item", "Nothing", "-o", Folder() + "x.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("Button, CheckBox"));
+    EXPECT_THAT(result.errors, HasSubstr("TaskBandGroup.Toolbar"));
 }
 
 TEST(UisSkin, StyleThatNoModuleHasIsRefused) {
