@@ -5,6 +5,7 @@
 #include "vxgui/platform/gdiplus_attributes.h"
 #include "vxgui/platform/gdiplus_brush.h"
 #include "vxgui/platform/gdiplus_codecs.h"
+#include "vxgui/platform/gdiplus_drawing.h"
 #include "vxgui/platform/gdiplus_effects.h"
 #include "vxgui/platform/gdiplus_fonts.h"
 #include "vxgui/platform/gdiplus_gradient.h"
@@ -35,6 +36,7 @@ VXPLATFORM_API void GdiplusShutdown(ULONG_PTR token);
     VXGUI_GDIPLUS_ATTRIBUTES(X)    \
     VXGUI_GDIPLUS_BRUSH(X)         \
     VXGUI_GDIPLUS_CODECS(X)        \
+    VXGUI_GDIPLUS_DRAWING(X)       \
     VXGUI_GDIPLUS_EFFECTS(X)       \
     VXGUI_GDIPLUS_FONTS(X)         \
     VXGUI_GDIPLUS_GRADIENT(X)      \

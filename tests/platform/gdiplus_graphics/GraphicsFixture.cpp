@@ -17,6 +17,7 @@ GraphicsFixture::GraphicsFixture() {
 }
 
 GraphicsFixture::~GraphicsFixture() {
+    for (GpPath* path : paths_) GdipDeletePath(path);
     for (GpBrush* brush : brushes_) GdipDeleteBrush(brush);
     for (GpGraphics* graphics : graphics_) GdipDeleteGraphics(graphics);
     for (GpBitmap* bitmap : bitmaps_) GdipDisposeImage(AsImage(bitmap));
@@ -43,6 +44,15 @@ GpGraphics* GraphicsFixture::GraphicsOf(GpBitmap* bitmap) {
     EXPECT_EQ(GdipGetImageGraphicsContext(AsImage(bitmap), &graphics), Ok);
     graphics_.push_back(graphics);
     return graphics;
+}
+
+GpPath* GraphicsFixture::Nested() {
+    const GpPointF points[] = {{1, 1}, {9, 1}, {9, 9}, {1, 9}, {3, 3}, {7, 3}, {7, 7}, {3, 7}};
+    const BYTE types[] = {0, 1, 1, 0x81, 0, 1, 1, 0x81};
+    GpPath* path = nullptr;
+    EXPECT_EQ(GdipCreatePath2(points, types, 8, FillModeAlternate, &path), Ok);
+    paths_.push_back(path);
+    return path;
 }
 
 GpBrush* GraphicsFixture::Solid(gdiplus::ARGB color) {

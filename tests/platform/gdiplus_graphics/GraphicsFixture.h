@@ -23,6 +23,8 @@ protected:
     gdiplus::GpBitmap* MakeBitmap(const TestPicture& picture,
                                   gdiplus::PixelFormat format = gdiplus::PixelFormat32bppARGB);
     gdiplus::GpGraphics* GraphicsOf(gdiplus::GpBitmap* bitmap);
+    /// A box of 8 by 8 at (1, 1) with one of 4 by 4 in its middle.
+    gdiplus::GpPath* Nested();
     gdiplus::GpBrush* Solid(gdiplus::ARGB color);
 
     static gdiplus::GpImage* AsImage(gdiplus::GpBitmap* bitmap) {
@@ -49,6 +51,7 @@ private:
     std::vector<gdiplus::GpBitmap*> bitmaps_;
     std::vector<gdiplus::GpGraphics*> graphics_;
     std::vector<gdiplus::GpBrush*> brushes_;
+    std::vector<gdiplus::GpPath*> paths_;
 };
 
 }  // namespace vxgui::test

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cairo.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -27,6 +25,15 @@ constexpr GpRect Common(const GpRect& a, const GpRect& b) {
 }
 constexpr bool IsEmpty(const GpRect& r) { return r.Width <= 0 || r.Height <= 0; }
 
+/// What two boxes share; 0 throughout when they share nothing.
+inline GpRectF CommonBox(const GpRectF& a, const GpRectF& b) {
+    const REAL left = std::max(a.X, b.X), top = std::max(a.Y, b.Y);
+    const REAL right = std::min(a.X + a.Width, b.X + b.Width);
+    const REAL bottom = std::min(a.Y + a.Height, b.Y + b.Height);
+    return right > left && bottom > top ? GpRectF{left, top, right - left, bottom - top}
+                                        : GpRectF{};
+}
+
 /// The box around a transformed one.
 inline GpRectF BoxOf(const GpRectF& box, const Affine& transform) {
     const GpPointF corners[] = {transform.Apply({box.X, box.Y}),
@@ -48,7 +55,5 @@ inline GpRect PixelsAround(const GpRectF& box) {
     const INT bottom = DeviceInt(std::ceil(static_cast<double>(box.Y) + box.Height));
     return {left, top, right - left, bottom - top};
 }
-
-inline cairo_matrix_t ToCairo(const Affine& a) { return {a.m11, a.m12, a.m21, a.m22, a.dx, a.dy}; }
 
 }  // namespace vxgui::gdiplus

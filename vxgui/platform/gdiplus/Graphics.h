@@ -59,6 +59,9 @@ public:
     /// How far the middles of pixels lie from where shapes are sampled: by default a pixel is
     /// sampled at its upper left corner, so that shapes move by half a pixel.
     double ShapeOffset() const;
+    /// Moves the user space of a context of `Paint` by that much, for shapes. Set the source first:
+    /// paints are given in the world, and don't move.
+    void MoveToSamples(cairo_t* cairo) const;
     bool Antialiases() const;
 
     DrawingTarget& Target() const { return *target_; }

@@ -15,14 +15,6 @@ gdi::PixelRegion PixelsOf(const Clip& clip) {
     return clip.IsInfinite() ? AllPixels() : *clip.Pixels();
 }
 
-GpRectF CommonBox(const GpRectF& a, const GpRectF& b) {
-    const REAL left = std::max(a.X, b.X), top = std::max(a.Y, b.Y);
-    const REAL right = std::min(a.X + a.Width, b.X + b.Width);
-    const REAL bottom = std::min(a.Y + a.Height, b.Y + b.Height);
-    return right > left && bottom > top ? GpRectF{left, top, right - left, bottom - top}
-                                        : GpRectF{};
-}
-
 GpRectF BoundsOf(const gdi::PixelRegion& pixels) {
     const gdi::RECT box = pixels.Bounds();
     return {static_cast<REAL>(box.left), static_cast<REAL>(box.top),

@@ -1,3 +1,4 @@
+#include "vxgui/platform/gdiplus/CairoMatrix.h"
 #include "vxgui/platform/gdiplus/DeviceBox.h"
 #include "vxgui/platform/gdiplus/Graphics.h"
 
@@ -55,7 +56,7 @@ void Graphics::Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) c
     const bool copy = state.compositingMode == CompositingModeSourceCopy;
     cairo_set_operator(cairo, copy ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER);
     cairo_set_antialias(cairo, Antialiases() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
-    const cairo_matrix_t matrix = ToCairo(user);
+    const cairo_matrix_t matrix = CairoMatrix(user);
     cairo_set_matrix(cairo, &matrix);
 }
 
@@ -93,6 +94,14 @@ void Graphics::SetSource(cairo_t* cairo, const Brush& brush, const GpRect& devic
         brush.MakePattern({WorldToDevice(), Drawable(device), state.renderingOrigin});
     if (!pattern) throw std::bad_alloc();
     cairo_set_source(cairo, pattern.get());
+}
+
+void Graphics::MoveToSamples(cairo_t* cairo) const {
+    const double offset = ShapeOffset();
+    cairo_matrix_t moved = CairoMatrix(WorldToDevice());
+    moved.x0 += offset;
+    moved.y0 += offset;
+    cairo_set_matrix(cairo, &moved);
 }
 
 void Graphics::Fill(cairo_t* cairo, const Brush& brush, const GpRect& device) const {
