@@ -115,6 +115,18 @@ TEST_P(DefaultStyle, ShowsItsPartsTogether) {
     for (int y = 2; y < 34; ++y) EXPECT_EQ(desktop.At(930, 566 + y), tray.At(80, y)) << y;
 }
 
+TEST_P(DefaultStyle, IsFoundInAModuleOfTheCurrentFolder) {
+    namespace fs = std::filesystem;
+    const std::string folder = Folder();
+    fs::copy_file(VXGUI_STYLES_FOLDER "/../share/vxgui/DefaultStyles.dll", folder + "Own.dll",
+                  fs::copy_options::overwrite_existing);
+    const fs::path before = fs::current_path();
+    fs::current_path(folder);
+    const Result result = Call({"gallery", std::string("res:Own:") + GetParam(), "-o", "x.png"});
+    fs::current_path(before);
+    EXPECT_EQ(result.status, 0) << result.errors;
+}
+
 TEST_P(DefaultStyle, IsReadFromItsModuleByAnIndependentReader) {
     if (OutputOf("command -v wrestool").empty())
         GTEST_SKIP() << "wrestool, of the package icoutils, is not installed";

@@ -12,6 +12,7 @@ namespace {
 constexpr const char* kExamples =
     "Examples:\n"
     "  vxgui gallery skins/aurora/aurora.theme -o gallery.png\n"
+    "  vxgui gallery skins/porcelain/porcelain.uis --desktop -o desktop.png\n"
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
     "  vxgui pack styles -o DefaultStyles.dll\n"

@@ -1,10 +1,10 @@
-#include <algorithm>
 #include <filesystem>
 
 #include "tools/vxgui/SkinDialects.h"
 #include "tools/vxgui/SkinReport.h"
 #include "tools/vxgui/ToolError.h"
-#include "vxgui/theme/SkinParts.h"
+#include "tools/vxgui/UisItems.h"
+#include "vxgui/theme/StyleModule.h"
 
 namespace vxgui::tool {
 namespace {
@@ -12,104 +12,6 @@ namespace {
 bool Has(core7::DefineFile& file, const String& section) {
     return file.PositionOf(section).line > 0;
 }
-
-bool HasKey(core7::DefineFile& file, const String& section, const char* key) {
-    return file.PositionOf(section, key).line > 0;
-}
-
-bool NamesPicture(core7::DefineFile& file, const String& section) {
-    return HasKey(file, section, "Image") || HasKey(file, section, "GlyphImage");
-}
-
-bool IsPart(const String& section) {
-    return std::any_of(SkinParts().begin(), SkinParts().end(),
-                       [&](const SkinPart& part) { return section.EqualsNoCase(part.name); });
-}
-
-/// One of the two define files of a skin.
-struct Dialect {
-    Ref<core7::DefineFile> file;
-    String label;  ///< how its lines are named in a report
-};
-
-/// Gathers the items of a skin that is open.
-class Gatherer {
-public:
-    Gatherer(Skin& skin, Dialect uis, Dialect taskbar, String folder)
-        : skin_(skin), uis_(std::move(uis)), taskbar_(std::move(taskbar)), folder_(folder) {}
-
-    void Gather() {
-        if (!folder_.empty()) AddControls();
-        for (const SkinPart& part : SkinParts()) AddPart(part);
-        for (const String& section : taskbar_.file->SectionNames()) {
-            if (!IsPart(section) && NamesPicture(*taskbar_.file, section))
-                Add(taskbar_, section, "", skin_.desktop->Item(section));
-        }
-        report_.ThrowIfAny();
-        if (skin_.items.empty()) Fail(skin_.path, "no section of the skin has an image");
-    }
-
-private:
-    // Sections of the UIS file that aren't parts of the desktop are the host's own controls.
-    void AddControls() {
-        for (const String& section : uis_.file->SectionNames()) {
-            if (IsPart(section) || !NamesPicture(*uis_.file, section)) continue;
-            const Ref<ThemeItem> item = New<ThemeItem>();
-            item->Owner(skin_.desktop);
-            item->FromUis(uis_.file, folder_, section, "");
-            Add(uis_, section, "", item);
-        }
-    }
-
-    // A skin may leave parts out.
-    void AddPart(const SkinPart& part) {
-        const Dialect& from = part.inUis ? uis_ : taskbar_;
-        const Ref<ThemeItem> item = skin_.desktop->Item(part.name);
-        if (item && (Has(*from.file, part.name) || item->Image()))
-            Add(from, part.name, part.image, item);
-    }
-
-    void Add(const Dialect& from, const String& section, const char* image,
-             const Ref<ThemeItem>& item) {
-        if (!item) return;
-        Check(from, section, "Image", image, item->Image() != nullptr);
-        Check(from, section, "GlyphImage", "", item->Glyph() != nullptr);
-        String caption;
-        if (HasKey(*from.file, section, "NormalColour") ||
-            HasKey(*from.file, section, "TextColour")) {
-            caption = section.Mid(section.view().rfind(u'.') + 1);
-            StyleCaption(*from.file, section, *item);
-        }
-        skin_.items.push_back({section, section, caption, item});
-    }
-
-    void Check(const Dialect& from, const String& section, const char* key, const char* fallback,
-               bool loaded) {
-        const bool named = HasKey(*from.file, section, key);
-        CheckPicture(from.label,
-                     named ? from.file->PositionOf(section, key) : from.file->PositionOf(section),
-                     folder_, from.file->GetString(section, key, fallback), loaded, report_);
-    }
-
-    // The dialect gives colours and alignment, from which a host makes its text styles.
-    static void StyleCaption(core7::DefineFile& file, const String& section, ThemeItem& item) {
-        for (int32_t state = 0; state < E_ItemStateMax; ++state) {
-            const int32_t colour = item.StateColour(state);
-            if (colour < 0) continue;
-            const Ref<TextStyle> style = New<TextStyle>();
-            style->TextColor = colour;
-            style->TextAlignHorz = file.GetInteger(section, "TextHorzAlignNormal", "0");
-            style->TextAlignVert = file.GetInteger(section, "TextVertAlignNormal", "0");
-            item.StateTextStyle(state, style);
-        }
-    }
-
-    Skin& skin_;
-    const Dialect uis_;
-    const Dialect taskbar_;
-    const String folder_;  ///< empty for a style of a module
-    SkinReport report_;
-};
 
 // Why the library went on to a built-in style: the taskbar's file, or one of its images.
 [[noreturn]] void RefuseTaskbar(const Skin& skin, const String& folder) {
@@ -132,8 +34,18 @@ private:
     report.Throw();
 }
 
+// A bare name means a module beside the program or the library. To whoever types one, it is also
+// the file in the current folder.
+String Reference(const std::string& path) {
+    const StyleReference reference = ParseStyleReference(path);
+    const bool bare = reference.module.view().find_first_of(u"/\\") == String::npos;
+    const bool here = bare && core7::ThePathService().FileExists(reference.module);
+    return here ? "res:./" + reference.module + ":" + reference.style : String(path);
+}
+
 void StartUp(Skin& skin) {
     try {
+        if (skin.desktop->DefFile().empty()) skin.desktop->DefFile(Reference(skin.path));
         skin.desktop->InitializeXPTaskbar();
     } catch (const Error& error) {
         Fail(skin.path, error.Description().Utf8());
@@ -160,21 +72,18 @@ void LoadUisSkin(Skin& skin) {
     SkinReport report;
     report.AddProblems(*taskbar);
     report.ThrowIfAny();
-    Gatherer(skin, {skin.file, skin.path}, {taskbar, taskbar->Path()},
-             folder.empty() ? "." : folder)
-        .Gather();
+    GatherUisItems(skin, taskbar->Path(), folder.empty() ? "." : folder);
 }
 
 void LoadStyle(Skin& skin) {
     skin.desktop = New<SkinDef>();
-    skin.desktop->DefFile(skin.path);
     StartUp(skin);
     skin.file = skin.desktop->UisFile();
     if (!skin.file || skin.desktop->TaskbarFile()->SectionNames().empty())
         Fail(skin.path,
              "no such style; res:MODULE:STYLE was expected, for example "
              "res:DefaultStyles:blue");
-    Gatherer(skin, {skin.file, skin.path}, {skin.desktop->TaskbarFile(), skin.path}, "").Gather();
+    GatherUisItems(skin, skin.path, "");
 }
 
 }  // namespace vxgui::tool
