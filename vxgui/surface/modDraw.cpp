@@ -1,11 +1,13 @@
 #include "vxgui/surface/modDraw.h"
 
+#include <algorithm>
 #include <span>
 
 #include "vxgui/frame/Report.h"
 #include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/pixels/Blend.h"
 #include "vxgui/pixels/Premultiply.h"
+#include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/ScratchBitmap.h"
 #include "vxgui/surface/ScratchContext.h"
@@ -29,13 +31,31 @@ struct Blit {
     int32_t sx, sy, sw, sh;
 };
 
-/// Reads the source into the bitmap that is selected in `scratch`. The stretch mode is that of a
-/// fresh context: pixels are dropped or repeated.
-void ReadSource(gdi::HDC scratch, const Blit& b) {
+/// A rectangle of the target.
+struct Area {
+    int32_t x, y, w, h;
+};
+
+/// What the target's context shows of the blit. The rest needs no working out: a stretched
+/// picture may be far larger than what can be seen of it.
+Area VisiblePart(const Blit& b) {
+    gdi::RECT box{};
+    gdi::GetClipBox(b.target, &box);
+    const int32_t x = std::max(b.x, box.left), y = std::max(b.y, box.top);
+    const int64_t right = std::min<int64_t>(int64_t{b.x} + b.w, box.right);
+    const int64_t bottom = std::min<int64_t>(int64_t{b.y} + b.h, box.bottom);
+    if (right <= x || bottom <= y) return {};
+    return {x, y, static_cast<int32_t>(right - x), static_cast<int32_t>(bottom - y)};
+}
+
+/// Reads the source of the part into the bitmap that is selected in `scratch`. The stretch mode is
+/// that of a fresh context: pixels are dropped or repeated.
+void ReadSource(gdi::HDC scratch, const Blit& b, const Area& part) {
+    const int32_t x = b.x - part.x, y = b.y - part.y;  // at or before the corner of the scratch
     if (b.w != b.sw || b.h != b.sh) {
-        gdi::StretchBlt(scratch, 0, 0, b.w, b.h, b.source, b.sx, b.sy, b.sw, b.sh, gdi::SRCCOPY);
+        gdi::StretchBlt(scratch, x, y, b.w, b.h, b.source, b.sx, b.sy, b.sw, b.sh, gdi::SRCCOPY);
     } else {
-        gdi::BitBlt(scratch, 0, 0, b.w, b.h, b.source, b.sx, b.sy, gdi::SRCCOPY);
+        gdi::BitBlt(scratch, x, y, b.w, b.h, b.source, b.sx, b.sy, gdi::SRCCOPY);
     }
 }
 
@@ -44,8 +64,9 @@ void ReadSource(gdi::HDC scratch, const Blit& b) {
 /// is flushed before its memory is touched.
 template <class Merge>
 void MergeThroughScratch(const Blit& b, Merge merge) {
-    if (b.w < 1 || b.h < 1) return;
-    const gdi::BITMAPINFO info = DibInfo(b.w, b.h);
+    const Area part = VisiblePart(b);
+    if (part.w < 1) return;
+    const gdi::BITMAPINFO info = DibInfo(part.w, part.h);
     const ScratchBitmap source(b.target, info);
     if (!source.handle()) return;
     gdi::GdiFlush();
@@ -53,19 +74,19 @@ void MergeThroughScratch(const Blit& b, Merge merge) {
     if (!scratch) return;
     {
         const ScopedSelection selected(scratch.get(), source.handle());
-        ReadSource(scratch.get(), b);
+        ReadSource(scratch.get(), b, part);
     }
     const ScratchBitmap target(b.target, info);
     if (!target.handle()) return;
     gdi::GdiFlush();
     const ScopedSelection selected(scratch.get(), target.handle());
-    gdi::BitBlt(scratch.get(), 0, 0, b.w, b.h, b.target, b.x, b.y, gdi::SRCCOPY);
+    gdi::BitBlt(scratch.get(), 0, 0, part.w, part.h, b.target, part.x, part.y, gdi::SRCCOPY);
     if (!source.bits() || !target.bits()) return;
     merge(source.bits(), target.bits(), static_cast<int32_t>(info.bmiHeader.biSizeImage));
-    const auto width = static_cast<DWORD>(b.w);
-    const auto height = static_cast<DWORD>(b.h);
-    gdi::SetDIBitsToDevice(b.target, b.x, b.y, width, height, 0, 0, 0, height, target.bits(), &info,
-                           gdi::DIB_RGB_COLORS);
+    const auto width = static_cast<DWORD>(part.w);
+    const auto height = static_cast<DWORD>(part.h);
+    gdi::SetDIBitsToDevice(b.target, part.x, part.y, width, height, 0, 0, 0, height, target.bits(),
+                           &info, gdi::DIB_RGB_COLORS);
 }
 
 }  // namespace
