@@ -15,6 +15,11 @@ inline INT RoundCoordinate(double value) {
 }
 inline GpPoint RoundPoint(GpPointF p) { return {RoundCoordinate(p.X), RoundCoordinate(p.Y)}; }
 
+inline GpRect RoundRect(const GpRectF& r) {
+    return {RoundCoordinate(r.X), RoundCoordinate(r.Y), RoundCoordinate(r.Width),
+            RoundCoordinate(r.Height)};
+}
+
 inline GpPointF ToFloat(const GpPoint& p) {
     return {static_cast<REAL>(p.X), static_cast<REAL>(p.Y)};
 }

@@ -13,10 +13,7 @@ GpStatus GdipCloneBrush(GpBrush* brush, GpBrush** cloneBrush) {
     });
 }
 
-GpStatus GdipDeleteBrush(GpBrush* brush) {
-    return FlatOn<Brush>(brush,
-                         [&](Brush&) { return RetireObject(brush) ? Ok : InvalidParameter; });
-}
+GpStatus GdipDeleteBrush(GpBrush* brush) { return FlatDelete<Brush>(brush); }
 
 GpStatus GdipGetBrushType(GpBrush* brush, BrushType* type) {
     return FlatGet<Brush>(brush, type, [](Brush& found) { return found.Type(); });
