@@ -7,6 +7,10 @@ namespace vxgui::gdiplus {
 
 extern "C" {
 
+/// Asked with the data that was given along with it; true ends the drawing, which answers
+/// `Aborted`.
+using DrawImageAbort = BOOL (*)(void*);
+
 /// Sets every pixel of the clip to a straight colour.
 VXPLATFORM_API GpStatus GdipGraphicsClear(GpGraphics* graphics, ARGB color);
 
@@ -41,12 +45,84 @@ VXPLATFORM_API GpStatus GdipFillRectanglesI(GpGraphics* graphics, GpBrush* brush
                                             const GpRect* rects, INT count);
 VXPLATFORM_API GpStatus GdipFillPath(GpGraphics* graphics, GpBrush* brush, GpPath* path);
 
+// Images. Negative sizes mirror. A part's own border isn't crossed by filters, so that what stands
+// beside it in the image doesn't bleed in. Beyond the image's border nothing is drawn, unless the
+// attributes give a wrap mode. By default pixels are sampled at their upper left corners, those of
+// mirrored images and of images that a mode of high quality shrinks at their middles.
+
+/// Whole, or the part, in its size on paper by the resolutions of both.
+VXPLATFORM_API GpStatus GdipDrawImage(GpGraphics* graphics, GpImage* image, REAL x, REAL y);
+VXPLATFORM_API GpStatus GdipDrawImageI(GpGraphics* graphics, GpImage* image, INT x, INT y);
+VXPLATFORM_API GpStatus GdipDrawImagePointRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y,
+                                               REAL srcx, REAL srcy, REAL srcwidth, REAL srcheight,
+                                               Unit srcUnit);
+VXPLATFORM_API GpStatus GdipDrawImagePointRectI(GpGraphics* graphics, GpImage* image, INT x, INT y,
+                                                INT srcx, INT srcy, INT srcwidth, INT srcheight,
+                                                Unit srcUnit);
+/// Whole, in a rectangle or in the parallelogram of three corners: upper left, upper right, lower
+/// left.
+VXPLATFORM_API GpStatus GdipDrawImageRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y,
+                                          REAL width, REAL height);
+VXPLATFORM_API GpStatus GdipDrawImageRectI(GpGraphics* graphics, GpImage* image, INT x, INT y,
+                                           INT width, INT height);
+VXPLATFORM_API GpStatus GdipDrawImagePoints(GpGraphics* graphics, GpImage* image,
+                                            const GpPointF* dstpoints, INT count);
+VXPLATFORM_API GpStatus GdipDrawImagePointsI(GpGraphics* graphics, GpImage* image,
+                                             const GpPoint* dstpoints, INT count);
+/// A part, in `srcUnit` by the image's resolution, with attributes or null.
+VXPLATFORM_API GpStatus GdipDrawImagePointsRect(GpGraphics* graphics, GpImage* image,
+                                                const GpPointF* points, INT count, REAL srcx,
+                                                REAL srcy, REAL srcwidth, REAL srcheight,
+                                                Unit srcUnit,
+                                                const GpImageAttributes* imageAttributes,
+                                                DrawImageAbort callback, void* callbackData);
+VXPLATFORM_API GpStatus GdipDrawImagePointsRectI(GpGraphics* graphics, GpImage* image,
+                                                 const GpPoint* points, INT count, INT srcx,
+                                                 INT srcy, INT srcwidth, INT srcheight,
+                                                 Unit srcUnit,
+                                                 const GpImageAttributes* imageAttributes,
+                                                 DrawImageAbort callback, void* callbackData);
+VXPLATFORM_API GpStatus GdipDrawImageRectRect(GpGraphics* graphics, GpImage* image, REAL dstx,
+                                              REAL dsty, REAL dstwidth, REAL dstheight, REAL srcx,
+                                              REAL srcy, REAL srcwidth, REAL srcheight,
+                                              Unit srcUnit,
+                                              const GpImageAttributes* imageAttributes,
+                                              DrawImageAbort callback, void* callbackData);
+VXPLATFORM_API GpStatus GdipDrawImageRectRectI(GpGraphics* graphics, GpImage* image, INT dstx,
+                                               INT dsty, INT dstwidth, INT dstheight, INT srcx,
+                                               INT srcy, INT srcwidth, INT srcheight, Unit srcUnit,
+                                               const GpImageAttributes* imageAttributes,
+                                               DrawImageAbort callback, void* callbackData);
+
+/// A copy of a bitmap's pixels that is quick to draw, on any graphics whose world only moves;
+/// else `WrongState`.
+VXPLATFORM_API GpStatus GdipCreateCachedBitmap(GpBitmap* bitmap, GpGraphics* graphics,
+                                               GpCachedBitmap** cachedBitmap);
+VXPLATFORM_API GpStatus GdipDeleteCachedBitmap(GpCachedBitmap* cachedBitmap);
+VXPLATFORM_API GpStatus GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitmap* cachedBitmap,
+                                             INT x, INT y);
+
 }  // extern "C"
 
 }  // namespace vxgui::gdiplus
 
 /// The functions above, for the tables that list all.
 #define VXGUI_GDIPLUS_DRAWING(X) \
+    X(GdipCreateCachedBitmap)    \
+    X(GdipDeleteCachedBitmap)    \
+    X(GdipDrawCachedBitmap)      \
+    X(GdipDrawImage)             \
+    X(GdipDrawImageI)            \
+    X(GdipDrawImagePointRect)    \
+    X(GdipDrawImagePointRectI)   \
+    X(GdipDrawImagePoints)       \
+    X(GdipDrawImagePointsI)      \
+    X(GdipDrawImagePointsRect)   \
+    X(GdipDrawImagePointsRectI)  \
+    X(GdipDrawImageRect)         \
+    X(GdipDrawImageRectI)        \
+    X(GdipDrawImageRectRect)     \
+    X(GdipDrawImageRectRectI)    \
     X(GdipDrawLine)              \
     X(GdipDrawLineI)             \
     X(GdipDrawLines)             \
