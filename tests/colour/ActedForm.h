@@ -45,6 +45,14 @@ public:
     void Text(int index, std::u16string_view text) override {
         if (Set(texts[At(index)], String(text))) events.TextChanged(index, text);
     }
+    void Ticked(forms::AdjustBox box, bool ticked) override {
+        if (box == forms::AdjustBox::Colourize && Set(colourize, ticked)) {
+            events.ColourizeChanged(ticked);
+        }
+        if (box == forms::AdjustBox::Preview && Set(preview, ticked)) {
+            events.PreviewChanged(ticked);
+        }
+    }
     void ScaleText(std::u16string_view text) override { scale = text; }
     void TimingText(std::u16string_view text) override { timing = text; }
     void RepaintWheel() override { ++wheelRepaints; }
@@ -71,6 +79,7 @@ public:
     std::array<Slider, 3> sliders, upDowns;
     std::array<String, 3> texts;
     String scale, timing;
+    bool colourize = false, preview = false;
     int wheelRepaints = 0;
     int timerStarts = 0;
     int32_t timer = 0;  ///< milliseconds to go; 0 when off

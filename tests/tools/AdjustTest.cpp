@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/tools/SampleSurface.h"
 
 namespace vxgui::tool {
@@ -104,6 +106,14 @@ TEST(Adjust, AMissingFileIsNamed) {
         Call({"adjust", "/nowhere/x.png", "-o", Folder() + "x.png", "--hue", "1"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("/nowhere/x.png: error: can't be read"));
+}
+
+TEST(Adjust, WithoutAToolkitTheDialogFailsAndWritesNothing) {
+    const std::string path = Folder() + "asked.png";
+    const Result result = Call({"adjust", "--dialog", SamplePng("asked-in.png"), "-o", path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("asked-in.png: error: no form toolkit is there"));
+    EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "tools/vxgui/Batch.h"
 #include "tools/vxgui/Commands.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/platform/core7.h"
+#include "vxgui/platform/forms.h"
 
 namespace vxgui::tool {
 namespace {
@@ -18,6 +20,7 @@ struct Options {
     bool colourize = false;
     bool hls = false;  ///< one of the four was given
     std::string rgb;
+    bool dialog = false;
 };
 
 struct Fractions {
@@ -45,16 +48,32 @@ Fractions FractionsOf(const std::string& text) {
 }
 
 void Check(const Options& options) {
-    if (!options.hls && options.rgb.empty()) {
+    if (!options.hls && options.rgb.empty() && !options.dialog) {
         throw UsageError(
-            "nothing to adjust: --hue, --saturation, --luminance, --colourize or "
-            "--rgb was expected");
+            "nothing to adjust: --hue, --saturation, --luminance, --colourize, --rgb or "
+            "--dialog was expected");
     }
     CheckRange("--hue", options.hue, -360, 360);
     const bool colourize = options.colourize;
     CheckRange(colourize ? "--saturation with --colourize" : "--saturation", options.saturation,
                colourize ? 0.0f : -100.0f, 100);
     CheckRange("--luminance", options.luminance, -100, 100);
+}
+
+// Why the library can show no dialog; empty when it can.
+std::string NoDialogBecause() {
+    std::string reason;
+    core7::SetTraceSink([&](const String&, const String& text, int32_t) { reason = text.Utf8(); });
+    const bool usable = forms::UsableToolkit() != nullptr;
+    core7::SetTraceSink({});
+    if (usable) return {};
+    return reason.empty() ? "no form toolkit is there" : reason;
+}
+
+void AskForAdjustment(cAlphaDIBSection& surface) {
+    const std::string reason = NoDialogBecause();
+    if (!reason.empty()) throw std::runtime_error(reason);
+    if (!surface.ShowAdjustHLS()) throw std::runtime_error("cancelled; nothing was written");
 }
 
 void Adjust(const Options& options, std::ostream& out, std::ostream& progress) {
@@ -68,6 +87,7 @@ void Adjust(const Options& options, std::ostream& out, std::ostream& progress) {
                                   options.colourize);
             }
             surface.AdjustRGB(rgb.red, rgb.green, rgb.blue);
+            if (options.dialog) AskForAdjustment(surface);
         },
         out, progress);
 }
@@ -88,6 +108,9 @@ void AddAdjustments(CLI::App& command, const std::shared_ptr<Options>& options) 
     command.add_option("--rgb", options->rgb,
                        "R,G,B from -1 to 1 each: above 0 towards full, below 0 that much less; "
                        "after the others");
+    command.add_flag("--dialog", options->dialog,
+                     "Ask for hue, saturation and lightness in a window, picture by picture; "
+                     "after the others");
 }
 
 }  // namespace
@@ -101,7 +124,8 @@ void AddAdjust(CLI::App& app, std::ostream& out, std::ostream& progress) {
         "Examples:\n"
         "  vxgui adjust button.tga -o green.tga --hue 120\n"
         "  vxgui adjust button.png -o sepia.png --colourize --hue 35 --saturation 40\n"
-        "  vxgui adjust strips/*.tga -o dark --to tga --luminance -30 --rgb 0,0,0.1");
+        "  vxgui adjust strips/*.tga -o dark --to tga --luminance -30 --rgb 0,0,0.1\n"
+        "  vxgui adjust --dialog button.png -o button2.png");
     command->callback([options, &out, &progress] { Adjust(*options, out, progress); });
 }
 

@@ -75,7 +75,9 @@ void frmAdjustHLS::Loaded(double viewWidth, double viewHeight) {
     view_.ResetZoom();
     wheel_ = std::make_unique<ColorWheel>();
     form_->ScaleText(view_.ScaleText().view());
+    form_->Ticked(forms::AdjustBox::Colourize, values_.Colourize());
     PutInControls();
+    form_->Ticked(forms::AdjustBox::Preview, previewTicked_);
 }
 
 void frmAdjustHLS::Resized(double viewWidth, double viewHeight) {

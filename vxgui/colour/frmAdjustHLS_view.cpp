@@ -41,11 +41,6 @@ private:
     gdi::HDC dc_;
 };
 
-void Clear(gdi::HDC dc, const forms::PanePixels& pixels) {
-    const gdi::RECT all{0, 0, pixels.width, pixels.height};
-    gdi::FillRect(dc, &all, gdi::GetSysColorBrush(gdi::COLOR_BTNFACE));
-}
-
 }  // namespace
 
 void frmAdjustHLS::AdjustAll(int32_t bRaiseEvent) {
@@ -122,13 +117,11 @@ void frmAdjustHLS::MouseReleased(double x, double y) {
 
 void frmAdjustHLS::PaintWheel(const forms::PanePixels& pixels) {
     const PaneContext dc(pixels);
-    Clear(dc, pixels);
     if (wheel_) wheel_->Paint(dc, values_.ForWheel());
 }
 
 void frmAdjustHLS::PaintPane(forms::Pane pane, const forms::PanePixels& pixels) {
     const PaneContext dc(pixels);
-    Clear(dc, pixels);
     const Ref<ole::Picture> picture =
         pane == forms::Pane::Before ? unadjusted_ : surface_->Picture();
     if (!picture) return;

@@ -12,7 +12,8 @@
 /// own but these interfaces, so that a toolkit lives in a shared object that knows nothing else.
 namespace vxgui::forms {
 
-/// A pane's pixels, 0x00RRGGBB, the top row first; `stride` in bytes.
+/// A pane's pixels, 0x00RRGGBB, the top row first, in the form's background colour until they are
+/// painted; `stride` in bytes.
 struct PanePixels {
     uint32_t* first;
     ptrdiff_t stride;
@@ -21,6 +22,7 @@ struct PanePixels {
 
 enum class Pane { Before, After };
 enum class AdjustButton { Ok, Cancel, Reset };
+enum class AdjustBox { Colourize, Preview };
 
 /// The texts of the colour dialog.
 struct AdjustCaptions {
@@ -72,6 +74,7 @@ public:
     virtual void UpDownRange(int index, int32_t min, int32_t max) = 0;
     virtual void UpDownValue(int index, int32_t value) = 0;
     virtual void Text(int index, std::u16string_view text) = 0;
+    virtual void Ticked(AdjustBox box, bool ticked) = 0;
     virtual void ScaleText(std::u16string_view text) = 0;
     virtual void TimingText(std::u16string_view text) = 0;
     virtual void RepaintWheel() = 0;
