@@ -46,8 +46,9 @@ public:
 protected:
     ~GpOwner() override { Dispose(); }
 
-    /// Takes what a creating call made when it succeeded, else keeps the object as it was.
-    bool Adopt(gdiplus::Status status, Flat* made) {
+    /// Takes what a creating call made when it succeeded, else keeps the object as it was. `made`
+    /// is a reference so that the call may stand in the first argument.
+    bool Adopt(gdiplus::Status status, Flat*& made) {
         if (!Check(status)) return false;
         static_cast<Self*>(this)->SetHandle(made);
         return true;

@@ -90,6 +90,7 @@ VXPLATFORM_API GpStatus GdipPrivateAddMemoryFont(GpFontCollection* fontCollectio
     X(GdipGetFamilyName)                 \
     X(GdipGetFontCollectionFamilyCount)  \
     X(GdipGetFontCollectionFamilyList)   \
+    X(GdipGetFontHeight)                 \
     X(GdipGetFontHeightGivenDPI)         \
     X(GdipGetFontSize)                   \
     X(GdipGetFontStyle)                  \
@@ -98,6 +99,7 @@ VXPLATFORM_API GpStatus GdipPrivateAddMemoryFont(GpFontCollection* fontCollectio
     X(GdipGetGenericFontFamilySansSerif) \
     X(GdipGetGenericFontFamilySerif)     \
     X(GdipGetLineSpacing)                \
+    X(GdipGetLogFontA)                   \
     X(GdipIsStyleAvailable)              \
     X(GdipNewInstalledFontCollection)    \
     X(GdipNewPrivateFontCollection)      \

@@ -4,7 +4,8 @@
 #include <tuple>
 
 #include "vxgui/base/Rounding.h"
-#include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/frame/ScreenDots.h"
+#include "vxgui/gdip/GpFont.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
@@ -16,12 +17,6 @@ auto Fields(auto& font) {
     return std::tie(font.Name, font.Height, font.Width, font.Escapement, font.Orientation,
                     font.Weight, font.Italic, font.Underline, font.StrikeOut, font.CharSet,
                     font.OutPrecision, font.ClipPrecision, font.Quality, font.PitchAndFamily);
-}
-
-/// The screen's dots an inch, by way of its twips a pixel.
-double DotsPerInch() {
-    const float twipsPerPixel = 1440.0f / static_cast<float>(gdi::ScreenDpi());
-    return 1440.0 / twipsPerPixel;
 }
 
 }  // namespace
@@ -56,13 +51,13 @@ bool LFont::Equal(const Ref<LFont>& other) const {
 
 float LFont::SIZE() const {
     const int32_t height = Height < 0 ? WrapSub(0, Height) : Height;
-    return static_cast<float>(WrapMul(height, 72) / DotsPerInch());
+    return static_cast<float>(WrapMul(height, 72) / ScreenDotsPerInch());
 }
 
 void LFont::SIZE(float points) {
     const KeepAlive keep(this);
     Dispose();
-    Height = RoundHalfEvenChecked(-(DotsPerInch() * points / 72), "LFont.SIZE");
+    Height = RoundHalfEvenChecked(-(ScreenDotsPerInch() * points / 72), "LFont.SIZE");
     Width = 0;
 }
 

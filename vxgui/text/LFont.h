@@ -9,6 +9,7 @@
 
 namespace vxgui {
 
+class GpFont;
 class TextStyle;
 
 enum FontQuality : uint8_t {
@@ -70,6 +71,8 @@ public:
     bool Equal(const Ref<LFont>& other) const;
     /// A handle for drawing, made on first use and the object's own.
     gdi::HFONT hFont();
+    /// A font of the flat drawing layer, made on first use and kept until `Dispose`.
+    Ref<class GpFont> GpFont();
     /// Drops the handles; may be called at any time.
     void Dispose();
 
@@ -87,6 +90,7 @@ private:
 
     gdi::HFONT font_ = nullptr;
     bool stock_ = false;  ///< `font_` is the platform's and isn't ours to delete
+    Ref<class GpFont> gpFont_;
     Ref<ole::StdFont> watched_;
 };
 

@@ -1,3 +1,4 @@
+#include "vxgui/gdip/GpFont.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/platform/gdi_text.h"
 #include "vxgui/platform/kernel.h"
@@ -21,10 +22,20 @@ gdi::HFONT LFont::hFont() {
     return font_;
 }
 
+Ref<class GpFont> LFont::GpFont() {
+    const KeepAlive keep(this);
+    if (!gpFont_) {
+        gpFont_ = New<class GpFont>();
+        gpFont_->FromStdFont(StdFont());
+    }
+    return gpFont_;
+}
+
 void LFont::Dispose() {
     const KeepAlive keep(this);
     if (font_ && !stock_) gdi::DeleteObject(font_);
     font_ = nullptr;
+    gpFont_ = nullptr;
 }
 
 }  // namespace vxgui
