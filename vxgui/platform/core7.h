@@ -52,6 +52,9 @@ VXPLATFORM_API std::optional<ByteArray> Decompress(const ByteArray& compressed);
 /// for its apartment.
 VXPLATFORM_API size_t& ApartmentDecompressionLimit();
 
+/// The CRC-32 of the bytes, as PNG and others use it (ISO 3309).
+VXPLATFORM_API uint32_t Checksum(const uint8_t* bytes, size_t size);
+
 class VXPLATFORM_API ResourceService : public Object {
 public:
     /// The bytes of a resource, empty if there is none.

@@ -1,3 +1,4 @@
+#include <zlib.h>
 #include <zstd.h>
 
 #include <memory>
@@ -57,6 +58,10 @@ std::optional<ByteArray> Decompress(const ByteArray& compressed) try {
     return bytes;
 } catch (const std::bad_alloc&) {
     return {};
+}
+
+uint32_t Checksum(const uint8_t* bytes, size_t size) {
+    return static_cast<uint32_t>(crc32_z(0, bytes, size));
 }
 
 size_t& ApartmentDecompressionLimit() {
