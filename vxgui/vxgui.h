@@ -14,4 +14,5 @@
 #include "vxgui/surface/cAlphaDIBSection.h"
 #include "vxgui/text/LFonts.h"
 #include "vxgui/text/TextStyles.h"
+#include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/ThemeSetFile.h"

@@ -7,8 +7,10 @@
 #include "tools/vxgui/Commands.h"
 #include "tools/vxgui/PictureDepth.h"
 #include "tools/vxgui/PictureFile.h"
+#include "tools/vxgui/SkinInfo.h"
 #include "tools/vxgui/StoredSurface.h"
 #include "tools/vxgui/StraightSurface.h"
+#include "vxgui/theme/CompiledSkin.h"
 
 namespace vxgui::tool {
 namespace {
@@ -95,6 +97,7 @@ void TellBag(const ByteArray& bytes, const std::string& file, std::ostream& out)
 
 void Tell(const std::string& file, std::ostream& out) {
     const ByteArray bytes = ReadFile(file);
+    if (IsCompiledSkin(bytes)) return TellSkin(bytes, file, out);
     const PictureKind kind = RequiredKindOf(bytes, file);
     std::ostringstream text;
     text << file << ": " << NameOf(kind) << ", ";
@@ -114,8 +117,12 @@ void Tell(const std::string& file, std::ostream& out) {
 void AddInfo(CLI::App& app, std::ostream& out) {
     const auto files = std::make_shared<std::vector<std::string>>();
     CLI::App* command = app.add_subcommand(
-        "info", "Tell the kind, size, depth and alpha of pictures, and what property bags hold");
-    command->add_option("FILE", *files, "Picture, serialized surface or property bag")->required();
+        "info",
+        "Tell the kind, size, depth and alpha of pictures, and what property bags and compiled "
+        "skins hold");
+    command
+        ->add_option("FILE", *files, "Picture, serialized surface, property bag or compiled skin")
+        ->required();
     command->footer(
         "Examples:\n"
         "  vxgui info button.tga\n"

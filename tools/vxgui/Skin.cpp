@@ -3,6 +3,7 @@
 #include "tools/vxgui/SkinDialects.h"
 #include "tools/vxgui/SkinReport.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/StyleModule.h"
 
 namespace vxgui::tool {
@@ -26,7 +27,26 @@ void Open(core7::DefineFile& file, const std::string& path) {
 
 }  // namespace
 
+// Its notes stand in for the define file.
+Skin CompiledSkinOf(const ByteArray& bytes, const std::string& path) try {
+    const CompiledSkin compiled = CompiledSkinFrom(bytes);
+    Skin skin{path, {}, core7::CreateDefineFile(), compiled.set, nullptr};
+    skin.file->LoadText(compiled.notes);
+    const Ref<ThemeItems> items = compiled.set->ThemeItems();
+    for (int32_t n = 1; items && n <= items->Count(); ++n) {
+        const String section = items->KeyOf(n);
+        skin.items.push_back({section, skin.file->GetString(section, "Name", section),
+                              skin.file->GetString(section, "Caption", ""), items->Item(n)});
+    }
+    return skin;
+} catch (const Error& error) {
+    Fail(path, error.Description().Utf8());
+}
+
 Skin LoadSkin(const std::string& path) {
+    ByteArray bytes;
+    if (core7::ReadWholeFile(path, &bytes) && IsCompiledSkin(bytes))
+        return CompiledSkinOf(bytes, path);
     Skin skin{path, {}, nullptr, nullptr, nullptr};
     if (IsStyleReference(path)) {
         LoadStyle(skin);

@@ -15,6 +15,7 @@ constexpr const char* kExamples =
     "  vxgui gallery skins/porcelain/porcelain.uis --desktop -o desktop.png\n"
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
+    "  vxgui compile skins/aurora/aurora.theme -o aurora.vxs\n"
     "  vxgui pack styles -o DefaultStyles.dll\n"
     "  vxgui convert skins/aurora/button.tga -o button.png\n"
     "  vxgui adjust skins/aurora/*.tga -o tinted --to tga --hue 140\n"
@@ -52,6 +53,7 @@ int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream&
     app.footer(kExamples);
     app.require_subcommand(1);
     AddAdjust(app, out, errors);
+    AddCompile(app, out);
     AddConvert(app, out, errors);
     AddGallery(app, out);
     AddInfo(app, out);

@@ -30,6 +30,9 @@ public:
     const T& Item(int32_t index) const { return entries_[Checked(index)].item; }
     const T& Item(const String& key) const { return entries_[Position(key)].item; }
 
+    /// The key in small letters, as keys are compared; empty for an item without one.
+    const String& Key(int32_t index) const { return entries_[Checked(index)].key; }
+
     void Remove(int32_t index) { Erase(Checked(index)); }
     void Remove(const String& key) { Erase(Position(key)); }
     void Clear() {

@@ -45,6 +45,8 @@ public:
     Ref<T> Item(int32_t index) const { return items_.Find(index); }
     Ref<T> Item(const String& key) const { return items_.Find(key); }
     int32_t Count() const { return items_.Count(); }
+    /// In small letters; empty for an item without a key. Raises error 9 for no item.
+    const String& KeyOf(int32_t index) const { return items_.Key(index); }
     template <class Index>
     void Remove(const Index& indexOrKey) {
         try {

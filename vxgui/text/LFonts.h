@@ -30,6 +30,9 @@ public:
     KeyedItems<LFont>::Iterator begin() const { return items_.begin(); }
     KeyedItems<LFont>::Iterator end() const { return items_.end(); }
 
+    // For the library's own classes.
+    VXGUI_LOCAL const String& KeyOf(int32_t index) const { return items_.KeyOf(index); }
+
 protected:
     ~LFonts() override;
 

@@ -26,6 +26,9 @@ public:
     KeyedItems<TextStyle>::Iterator begin() const { return items_.begin(); }
     KeyedItems<TextStyle>::Iterator end() const { return items_.end(); }
 
+    // For the library's own classes.
+    VXGUI_LOCAL const String& KeyOf(int32_t index) const { return items_.KeyOf(index); }
+
 protected:
     ~TextStyles() override;
 

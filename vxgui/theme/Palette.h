@@ -17,6 +17,8 @@ public:
     /// had none up to it become 0.
     void Set(int32_t index, int32_t colour);
 
+    const std::vector<int32_t>& All() const { return colours_; }
+
 private:
     std::vector<int32_t> colours_;
 };

@@ -15,6 +15,9 @@ namespace vxgui {
 
 class DefineSection;
 class ThemeSet;
+namespace compiled {
+class ItemFields;
+}
 
 /// Where the pictures of a skin lie: in a folder, or in a style module's resources of the type
 /// "Image".
@@ -283,6 +286,8 @@ protected:
     ~ThemeItem() override;
 
 private:
+    friend class compiled::ItemFields;
+
     // Bits of `ImageFlags`; their places are part of the file format.
     static constexpr uint32_t kTileMask = 0xF, kTileLeft = 0x10, kTileTop = 0x20, kTileRight = 0x40,
                               kTileBottom = 0x80, kGlyphFrameVert = 0x04000000,

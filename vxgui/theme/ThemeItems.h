@@ -23,6 +23,9 @@ public:
     KeyedItems<ThemeItem>::Iterator begin() const { return items_.begin(); }
     KeyedItems<ThemeItem>::Iterator end() const { return items_.end(); }
 
+    // For the library's own classes.
+    VXGUI_LOCAL const String& KeyOf(int32_t index) const { return items_.KeyOf(index); }
+
 protected:
     ~ThemeItems() override;
 

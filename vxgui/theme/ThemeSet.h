@@ -35,6 +35,9 @@ public:
     /// Lets go of items, fonts and styles. The palette stays.
     void Dispose();
 
+    // For the library's own classes.
+    VXGUI_LOCAL Palette& Colours() { return palette_; }
+
 protected:
     ~ThemeSet() override;
 

@@ -1,5 +1,7 @@
 #include "vxgui/theme/ThemeSetFile.h"
 
+#include "vxgui/theme/CompiledSkin.h"
+
 namespace vxgui {
 namespace {
 
@@ -22,6 +24,7 @@ core7::DefinePosition LastPlace(const core7::DefineFile& file, const ThemeSet& s
 }  // namespace
 
 Ref<ThemeSet> LoadThemeSetFile(const String& path) {
+    if (IsCompiledSkinFile(path)) return LoadCompiledSkin(path).set;
     const Ref<core7::DefineFile> file = core7::CreateDefineFile();
     const bool opened = file->OpenFile(path);
     RaiseFirst(*file, path);

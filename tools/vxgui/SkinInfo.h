@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "vxgui/base/Variant.h"
+
+namespace vxgui::tool {
+
+/// What a compiled skin holds: its items with their strips, and how much else there is. A
+/// `ToolError` for a damaged one.
+void TellSkin(const ByteArray& bytes, const std::string& file, std::ostream& out);
+
+}  // namespace vxgui::tool

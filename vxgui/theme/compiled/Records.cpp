@@ -1,0 +1,42 @@
+#include "vxgui/base/Error.h"
+#include "vxgui/base/LittleEndian.h"
+#include "vxgui/theme/compiled/Container.h"
+
+namespace vxgui::compiled {
+namespace {
+
+constexpr size_t kSizeBytes = 4;
+// As many as a define file may have sections: an object takes more memory than its record.
+constexpr size_t kMostRecords = 100000;
+
+}  // namespace
+
+ByteArray JoinRecords(const std::vector<ByteArray>& records) {
+    if (records.size() > kMostRecords)
+        throw Error(ErrorNumber::Overflow, "CompiledSkin", "too many items, fonts or styles");
+    ByteArray bytes;
+    for (const ByteArray& record : records) {
+        uint8_t size[kSizeBytes];
+        StoreLittle(size, static_cast<uint32_t>(record.size()));
+        bytes.insert(bytes.end(), size, size + kSizeBytes);
+        bytes.insert(bytes.end(), record.begin(), record.end());
+    }
+    return bytes;
+}
+
+std::vector<ByteArray> SplitRecords(const ByteArray& bytes) {
+    std::vector<ByteArray> records;
+    for (size_t at = 0; at < bytes.size();) {
+        const size_t rest = bytes.size() - at;
+        const size_t size = rest < kSizeBytes ? rest : LoadLittle<uint32_t>(bytes.data() + at);
+        if (rest < kSizeBytes || size > rest - kSizeBytes)
+            RaiseDamaged("damaged: a record goes beyond its section");
+        if (records.size() == kMostRecords) RaiseDamaged("refused: too many records in a section");
+        const auto begin = bytes.begin() + static_cast<std::ptrdiff_t>(at + kSizeBytes);
+        records.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(size));
+        at += kSizeBytes + size;
+    }
+    return records;
+}
+
+}  // namespace vxgui::compiled

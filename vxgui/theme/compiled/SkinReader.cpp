@@ -1,0 +1,132 @@
+#include "vxgui/theme/compiled/SkinReader.h"
+
+#include "vxgui/base/LittleEndian.h"
+#include "vxgui/theme/compiled/FieldBag.h"
+#include "vxgui/theme/compiled/Fields.h"
+#include "vxgui/theme/compiled/PictureBlock.h"
+
+namespace vxgui::compiled {
+namespace {
+
+Ref<ole::PropertyBag> BagOf(const ByteArray& bytes) {
+    Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
+    bag->Contents(bytes);
+    return bag;
+}
+
+// What a number from 1 stands for; none for 0.
+template <class T>
+Ref<T> Numbered(const std::vector<Ref<T>>& objects, int32_t number) {
+    if (number == 0) return nullptr;
+    if (number < 0 || static_cast<size_t>(number) > objects.size())
+        RaiseDamaged("damaged: it refers to what it doesn't hold");
+    return objects[static_cast<size_t>(number) - 1];
+}
+
+int32_t NumberIn(const FieldReader& read, const String& name) {
+    int32_t number = 0;
+    read(name, number);
+    return number;
+}
+
+String KeyIn(const FieldReader& read) {
+    String key;
+    read("Key", key);
+    return key;
+}
+
+template <class Pool, class T>
+void AddToPool(const Ref<Pool>& pool, int32_t inPool, const std::vector<Ref<T>>& objects,
+               const String& key) {
+    if (pool && objects.size() <= static_cast<size_t>(inPool)) pool->AddItem(objects.back(), key);
+}
+
+template <class Read>
+void ForEachRecord(const ByteArray& bytes, Read read) {
+    for (const ByteArray& record : SplitRecords(bytes)) read(record);
+}
+
+}  // namespace
+
+CompiledSkin SkinReader::Read() {
+    skin_.set = New<ThemeSet>();
+    for (size_t i = 0; i < container_.Count(); ++i)
+        ReadSection(container_.KindOf(i), container_.BytesOf(i));
+    return std::move(skin_);
+}
+
+void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
+    switch (kind) {
+        case SectionKind::Set:
+            return ReadSet(bytes);
+        case SectionKind::Picture:
+            return ReadPicture(bytes);
+        case SectionKind::Styles:
+            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadStyle(record); });
+        case SectionKind::Fonts:
+            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadFont(record); });
+        case SectionKind::Items:
+            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadItem(record); });
+        case SectionKind::Notes:
+            skin_.notes = std::string(bytes.begin(), bytes.end());
+            return;
+    }
+    RaiseDamaged("damaged: it has a section of an unknown kind");
+}
+
+void SkinReader::ReadSet(const ByteArray& bytes) {
+    const Ref<ole::PropertyBag> bag = BagOf(bytes);
+    const FieldReader read(bag);
+    if (bag->Has("Fonts")) skin_.set->Fonts(New<LFonts>());
+    if (bag->Has("TextStyles")) skin_.set->TextStyles(New<TextStyles>());
+    if (bag->Has("NoItems")) skin_.set->ThemeItems(nullptr);
+    fontsInPool_ = NumberIn(read, "Fonts");
+    stylesInPool_ = NumberIn(read, "TextStyles");
+    const Variant colours = bag->ReadProperty("Colours");
+    const auto* stored = colours.As<ByteArray>();
+    for (size_t at = 0; stored && at + 4 <= stored->size(); at += 4)
+        skin_.set->Colours().Set(static_cast<int32_t>(at / 4),
+                                 static_cast<int32_t>(LoadLittle<uint32_t>(&(*stored)[at])));
+}
+
+void SkinReader::ReadPicture(const ByteArray& bytes) {
+    const Ref<cAlphaDIBSection> picture = New<cAlphaDIBSection>();
+    if (!IsWholePicture(bytes) || !picture->FromByteArray(bytes))
+        RaiseDamaged("damaged: a picture in it can't be read");
+    pictures_.push_back(picture);
+}
+
+void SkinReader::ReadStyle(const ByteArray& record) {
+    const FieldReader read(BagOf(record));
+    const Ref<TextStyle> style = New<TextStyle>();
+    ForEachStyleField(*style, read);
+    styles_.push_back(style);
+    AddToPool(skin_.set->TextStyles(), stylesInPool_, styles_, KeyIn(read));
+}
+
+void SkinReader::ReadFont(const ByteArray& record) {
+    const FieldReader read(BagOf(record));
+    const Ref<LFont> font = New<LFont>();
+    ForEachFontField(*font, read);
+    font->DrawingStyle = Numbered(styles_, NumberIn(read, "DrawingStyle"));
+    fonts_.push_back(font);
+    AddToPool(skin_.set->Fonts(), fontsInPool_, fonts_, KeyIn(read));
+}
+
+void SkinReader::ReadItem(const ByteArray& record) {
+    const FieldReader read(BagOf(record));
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->Image(Numbered(pictures_, NumberIn(read, "Image")));
+    item->Glyph(Numbered(pictures_, NumberIn(read, "Glyph")));
+    ItemFields::ForEach(*item, read);
+    for (int32_t state = 0; state < E_ItemStateMax; ++state) {
+        const String number = String::FromInt(state);
+        if (const auto font = Numbered(fonts_, NumberIn(read, "Font" + number)))
+            item->StateFont(state, font);
+        if (const auto style = Numbered(styles_, NumberIn(read, "TextStyle" + number)))
+            item->StateTextStyle(state, style);
+    }
+    skin_.set->Item(KeyIn(read), item);
+}
+
+}  // namespace vxgui::compiled
