@@ -14,6 +14,7 @@ struct HPEN__;
 struct HRGN__;
 struct HFONT__;
 struct HICON__;
+struct HPALETTE__;
 using HDC = HDC__*;
 using HBITMAP = HBITMAP__*;
 using HBRUSH = HBRUSH__*;
@@ -21,6 +22,7 @@ using HPEN = HPEN__*;
 using HRGN = HRGN__*;
 using HFONT = HFONT__*;
 using HICON = HICON__*;
+using HPALETTE = HPALETTE__*;
 using HGDIOBJ = void*;
 
 struct POINT {

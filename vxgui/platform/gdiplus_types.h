@@ -62,6 +62,7 @@ struct CLSID {
     DWORD Data1;
     WORD Data2, Data3;
     BYTE Data4[8];
+    bool operator==(const CLSID&) const = default;
 };
 using GUID = CLSID;
 

@@ -43,14 +43,22 @@ public:
     /// alpha and back would change a straight one, and deeper ones would lose bits.
     void WritePremultiplied(INT x, INT y, std::span<const ARGB> from);
 
+    /// Everything but a lock; memory of its own.
+    Ref<Bitmap> Copy() const;
+    /// A part in any format. Into its own, indexes and colours stay; another indexed one gets the
+    /// standard palette. The area must lie in the bitmap.
+    Ref<Bitmap> CopyArea(const GpRect& area, PixelFormat format) const;
+    /// The whole.
+    GpRect Bounds() const { return {0, 0, memory_.width, memory_.height}; }
+
     bool Contains(const GpRect& area) const;
     /// While it is, all but getters of numbers answer `ObjectBusy`.
     bool IsLocked() const { return lock_.has_value(); }
     GpStatus Lock(const GpRect& area, UINT flags, PixelFormat format, BitmapData* data);
     GpStatus Unlock(const BitmapData& data);
 
-    /// Changes the pixels, their size and their format; for operations on the whole bitmap.
-    void Exchange(PixelMemory memory, Palette palette);
+    /// Exchanges pixels, size, format and palette with another's; for operations on the whole.
+    void ExchangePixels(Bitmap& other);
 
 private:
     struct HeldLock {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "vxgui/platform/gdiplus/FlatObject.h"
-#include "vxgui/platform/gdiplus_types.h"
+#include "vxgui/platform/gdiplus_formats.h"
 
 namespace vxgui::gdiplus {
 
@@ -12,6 +12,8 @@ public:
     virtual UINT Height() const = 0;
 
     REAL dpiX = 96, dpiY = 96;  ///< a new image has the screen's
+    GUID rawFormat = ImageFormatMemoryBMP;
+    UINT fileFlags = 0;  ///< of `ImageFlags`, by which an image of a file tells of it
 };
 
 }  // namespace vxgui::gdiplus

@@ -6,6 +6,7 @@
 
 #include "vxgui/platform/codecs/ImageDecoder.h"
 #include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/bitmap/CopyPixels.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelRow.h"
 
@@ -29,14 +30,33 @@ Ref<Bitmap> Bitmap::Create(INT width, INT height, PixelFormat format) {
     return New<Bitmap>(PixelMemory::Zeroed(width, height, format));
 }
 
+Ref<Bitmap> Bitmap::CopyArea(const GpRect& area, PixelFormat format) const {
+    Ref<Bitmap> copy = New<Bitmap>(PixelMemory::Zeroed(area.Width, area.Height, format));
+    if (format == memory_.format) copy->palette_ = palette_;
+    copy->dpiX = dpiX;
+    copy->dpiY = dpiY;
+    PixelCopier copier({memory_.format, &palette_}, {format, &copy->palette_});
+    for (INT y = 0; y < area.Height; ++y) {
+        copier.Copy(Row(area.Y + y), Column(area.X), copy->Row(y), 0, Column(area.Width));
+    }
+    return copy;
+}
+
+Ref<Bitmap> Bitmap::Copy() const {
+    Ref<Bitmap> copy = CopyArea(Bounds(), memory_.format);
+    copy->rawFormat = rawFormat;
+    copy->fileFlags = fileFlags;
+    return copy;
+}
+
 bool Bitmap::Contains(const GpRect& area) const {
     return area.X >= 0 && area.Y >= 0 && area.Width > 0 && area.Height > 0 &&
            area.X <= memory_.width - area.Width && area.Y <= memory_.height - area.Height;
 }
 
-void Bitmap::Exchange(PixelMemory memory, Palette palette) {
-    memory_ = std::move(memory);
-    palette_ = std::move(palette);
+void Bitmap::ExchangePixels(Bitmap& other) {
+    std::swap(memory_, other.memory_);
+    std::swap(palette_, other.palette_);
 }
 
 void Bitmap::ReadStraight(INT x, INT y, std::span<ARGB> to) const {

@@ -6,6 +6,7 @@
 #include "vxgui/base/LittleEndian.h"
 #include "vxgui/platform/gdiplus/Premultiply.h"
 #include "vxgui/platform/gdiplus/bitmap/LinearLight.h"
+#include "vxgui/platform/gdiplus/bitmap/Luminance.h"
 
 /// One pixel of each format that has whole bytes: `kBytes`, and straight 32-bit pixels both ways.
 namespace vxgui::gdiplus::codes {
@@ -63,10 +64,7 @@ struct Gray16 {
     static constexpr size_t kBytes = 2;
     static ARGB Read(const uint8_t* from) { return kOpaque | from[1] * 0x010101u; }
     static void Write(uint8_t* to, ARGB color) {
-        const ARGB gray =
-            (Channel(color, 16) * 299 + Channel(color, 8) * 587 + Channel(color, 0) * 114 + 500) /
-            1000;
-        StoreLittle(to, static_cast<uint16_t>(gray * 257));
+        StoreLittle(to, static_cast<uint16_t>(Luminance(color) * 257));
     }
 };
 

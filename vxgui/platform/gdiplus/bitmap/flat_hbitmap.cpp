@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "vxgui/platform/gdi_dib.h"
-#include "vxgui/platform/gdiplus/Bitmap.h"
-#include "vxgui/platform/gdiplus/FlatCall.h"
+#include "vxgui/platform/gdiplus/FlatAccess.h"
+#include "vxgui/platform/gdiplus/bitmap/DeviceBitmap.h"
 #include "vxgui/platform/gdiplus_images.h"
 
 namespace vxgui::gdiplus {
@@ -27,8 +27,16 @@ uint32_t PremultipliedOver(uint32_t pixel, ARGB background) {
 
 }  // namespace
 
-extern "C" GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* result,
-                                                ARGB background) {
+extern "C" {
+
+GpStatus GdipCreateBitmapFromHBITMAP(gdi::HBITMAP source, gdi::HPALETTE, GpBitmap** bitmap) {
+    return FlatCreate(bitmap, [&] {
+        Ref<Bitmap> copy = CopyOfDeviceBitmap(source);
+        return copy ? HandOut(bitmap, std::move(copy)) : InvalidParameter;
+    });
+}
+
+GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* result, ARGB background) {
     return FlatCreate(result, [&] {
         const Ref<Bitmap> found = Find<Bitmap>(bitmap);
         if (!found) return InvalidParameter;
@@ -46,5 +54,7 @@ extern "C" GpStatus GdipCreateHBITMAPFromBitmap(GpBitmap* bitmap, gdi::HBITMAP* 
         return Ok;
     });
 }
+
+}  // extern "C"
 
 }  // namespace vxgui::gdiplus

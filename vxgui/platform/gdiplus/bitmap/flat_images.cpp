@@ -1,6 +1,6 @@
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdiplus/Bitmap.h"
-#include "vxgui/platform/gdiplus/FlatCall.h"
+#include "vxgui/platform/gdiplus/FlatAccess.h"
 #include "vxgui/platform/gdiplus_images.h"
 
 namespace vxgui::gdiplus {
@@ -20,10 +20,8 @@ Ref<Bitmap> BitmapOfStream(IStream& stream) {
 }
 
 template <class Handle>
-GpStatus HandOut(Ref<Bitmap> bitmap, Handle** result, GpStatus otherwise) {
-    if (!bitmap) return otherwise;
-    *result = static_cast<Handle*>(EnterObject(std::move(bitmap)));
-    return Ok;
+GpStatus HandOutOr(Handle** result, Ref<Bitmap> bitmap, GpStatus otherwise) {
+    return bitmap ? HandOut(result, std::move(bitmap)) : otherwise;
 }
 
 }  // namespace
@@ -35,7 +33,7 @@ GpStatus GdipLoadImageFromFile(const WCHAR* filename, GpImage** image) {
         if (!filename) return InvalidParameter;
         ByteArray bytes;
         if (!core7::ReadWholeFile(filename, &bytes)) return FileNotFound;
-        return HandOut(DecodeBitmap(bytes), image, OutOfMemory);
+        return HandOutOr(image, DecodeBitmap(bytes), OutOfMemory);
     });
 }
 
@@ -43,54 +41,14 @@ GpStatus GdipCreateBitmapFromFile(const WCHAR* filename, GpBitmap** bitmap) {
     return FlatCreate(bitmap, [&]() -> GpStatus {
         ByteArray bytes;
         if (!filename || !core7::ReadWholeFile(filename, &bytes)) return InvalidParameter;
-        return HandOut(DecodeBitmap(bytes), bitmap, InvalidParameter);
+        return HandOutOr(bitmap, DecodeBitmap(bytes), InvalidParameter);
     });
 }
 
 GpStatus GdipCreateBitmapFromStream(IStream* stream, GpBitmap** bitmap) {
     return FlatCreate(bitmap, [&]() -> GpStatus {
         if (!stream) return InvalidParameter;
-        return HandOut(BitmapOfStream(*stream), bitmap, InvalidParameter);
-    });
-}
-
-GpStatus GdipDisposeImage(GpImage* image) {
-    return Flat([&] { return Find<Image>(image) && RetireObject(image) ? Ok : InvalidParameter; });
-}
-
-GpStatus GdipGetImageWidth(GpImage* image, UINT* width) {
-    return Flat([&] {
-        const Ref<Image> found = Find<Image>(image);
-        if (!found || !width) return InvalidParameter;
-        *width = found->Width();
-        return Ok;
-    });
-}
-
-GpStatus GdipGetImageHeight(GpImage* image, UINT* height) {
-    return Flat([&] {
-        const Ref<Image> found = Find<Image>(image);
-        if (!found || !height) return InvalidParameter;
-        *height = found->Height();
-        return Ok;
-    });
-}
-
-GpStatus GdipBitmapLockBits(GpBitmap* bitmap, const GpRect* rect, UINT flags, PixelFormat format,
-                            BitmapData* data) {
-    return Flat([&] {
-        const Ref<Bitmap> found = Find<Bitmap>(bitmap);
-        if (!found || !data) return InvalidParameter;
-        const GpRect whole{0, 0, static_cast<INT>(found->Width()),
-                           static_cast<INT>(found->Height())};
-        return found->Lock(rect ? *rect : whole, flags, format, data);
-    });
-}
-
-GpStatus GdipBitmapUnlockBits(GpBitmap* bitmap, BitmapData* data) {
-    return Flat([&] {
-        const Ref<Bitmap> found = Find<Bitmap>(bitmap);
-        return found && data ? found->Unlock(*data) : InvalidParameter;
+        return HandOutOr(bitmap, BitmapOfStream(*stream), InvalidParameter);
     });
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "vxgui/platform/gdiplus/Bitmap.h"
+
+namespace vxgui::gdiplus {
+
+/// The picture scaled to a size, premultiplied. Without a width or height that side keeps the
+/// proportions; without both it is 120 x 120.
+Ref<Bitmap> Thumbnail(const Bitmap& bitmap, UINT width, UINT height);
+
+}  // namespace vxgui::gdiplus
