@@ -13,4 +13,11 @@ public:
     Affine value;
 };
 
+/// The matrix of a handle that may be null for the identity; none for a dead handle.
+inline std::optional<Affine> MatrixOrIdentity(const GpMatrix* handle) {
+    if (!handle) return Affine{};
+    const Ref<Matrix> found = Find<Matrix>(handle);
+    return found ? std::optional(found->value) : std::nullopt;
+}
+
 }  // namespace vxgui::gdiplus

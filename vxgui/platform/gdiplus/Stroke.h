@@ -4,6 +4,7 @@
 
 #include "vxgui/platform/gdiplus/Path.h"
 #include "vxgui/platform/gdiplus/Pen.h"
+#include "vxgui/platform/gdiplus/Vec.h"
 
 namespace vxgui::gdiplus {
 
@@ -20,6 +21,11 @@ void AppendPath(cairo_t* cairo, const PathPoints& path);
 /// transform) with the source that is set. The context's user space is the world.
 void StrokePath(cairo_t* cairo, const PenSettings& pen, const PathPoints& path,
                 const StrokePlace& place);
+
+/// What the stroke covers, as polygons in world coordinates that are filled by winding. Curves are
+/// flattened within `flatness` pixels; a pen thinner than `thinnest` pixels is as wide as that.
+Polygons StrokePolygons(const PenSettings& pen, const PathPoints& path, const StrokePlace& place,
+                        REAL flatness, REAL thinnest = 1);
 
 /// The box that `StrokePath` stays in, in world coordinates.
 GpRectF StrokeBounds(const PenSettings& pen, const PathPoints& path, const StrokePlace& place);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numbers>
 
+#include "vxgui/platform/gdiplus/strokes/Caps.h"
+
 namespace vxgui::gdiplus {
 namespace {
 
@@ -27,11 +29,9 @@ REAL PixelsOf(Unit unit, REAL dpi) {
     }
 }
 
-bool IsAnchor(LineCap cap) { return (cap & LineCapAnchorMask) != 0 && cap > LineCapNoAnchor; }
-
 }  // namespace
 
-std::optional<Nib> NibOf(const PenSettings& pen, const StrokePlace& place) {
+std::optional<Nib> NibOf(const PenSettings& pen, const StrokePlace& place, REAL thinnest) {
     const Affine device = WithoutShift(place.worldToDevice);
     const auto toWorld = Inverse(device);
     if (!toWorld) return {};
@@ -41,8 +41,9 @@ std::optional<Nib> NibOf(const PenSettings& pen, const StrokePlace& place) {
     const auto inverse = Inverse(nib.space);
     if (!inverse) return {};
     nib.toSpace = *inverse;
-    nib.width =
-        std::max(pen.width * PixelsOf(pen.unit, place.dpi), 1 / MeanScale(nib.space * device));
+    nib.pixels = MeanScale(nib.space * device);
+    nib.width = std::max(pen.width * PixelsOf(pen.unit, place.dpi), thinnest / nib.pixels);
+    if (!(nib.width > 0)) return {};
     return nib;
 }
 

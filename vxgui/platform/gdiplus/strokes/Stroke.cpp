@@ -7,10 +7,28 @@
 
 namespace vxgui::gdiplus {
 
+namespace {
+
+void AppendPolygon(cairo_t* cairo, const Polygon& polygon) {
+    for (const Vec corner : polygon) cairo_line_to(cairo, corner.x, corner.y);
+    cairo_close_path(cairo);
+    cairo_new_sub_path(cairo);
+}
+
+}  // namespace
+
 void StrokePath(cairo_t* cairo, const PenSettings& pen, const PathPoints& path,
                 const StrokePlace& place) {
+    constexpr REAL kFlatness = 0.1f;  // cairo's own
     const auto nib = NibOf(pen, place);
-    if (nib && !path.IsEmpty()) StrokePlainly(cairo, pen, path, *nib);
+    if (!nib || path.IsEmpty() || StrokePlainly(cairo, pen, path, *nib)) return;
+    for (const Polygon& polygon : StrokePolygons(pen, path, place, kFlatness)) {
+        AppendPolygon(cairo, polygon);
+    }
+    const cairo_fill_rule_t rule = cairo_get_fill_rule(cairo);
+    cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
+    cairo_fill(cairo);
+    cairo_set_fill_rule(cairo, rule);
 }
 
 GpRectF StrokeBounds(const PenSettings& pen, const PathPoints& path, const StrokePlace& place) {
