@@ -10,7 +10,7 @@ public:
     String BuildPath(const String& folder, const String& name) override {
         return Real().BuildPath(folder, name);
     }
-    bool FileExists(const String& path) override { return gWorld->Exists(path.Utf8()); }
+    bool FileExists(const String& path) override { return gWorld->Ask(path.Utf8()); }
     String GetParentFolderName(const String& path) override {
         return Real().GetParentFolderName(path);
     }
@@ -25,7 +25,7 @@ public:
     String JoinPath(const std::vector<String>& parts) override {
         return core7::ThePathService().JoinPath(parts);
     }
-    bool FileExists(const String& path) override { return gWorld->Exists(path.Utf8()); }
+    bool FileExists(const String& path) override { return gWorld->Ask(path.Utf8()); }
     bool PathExists(const String& path) override { return FileExists(path); }
     core7::FileSystem& TheFileSystem() override { return *files_; }
 

@@ -23,12 +23,19 @@ public:
     void AddModule(const std::string& path, const std::string& style, const std::string& uis,
                    const std::string& taskbar);
     bool Exists(const std::string& path) const { return files.count(path) != 0; }
+    /// The same as a question of the library's.
+    bool Ask(const std::string& path) {
+        sought.push_back(path);
+        return Exists(path);
+    }
 
     std::map<std::string, std::string> files;
     /// By "type/name"; they are in every module.
     std::map<std::string, std::string> resources;
     /// "type/name" of each resource that was asked for.
     std::vector<std::string> asked;
+    /// Each path whose existence was asked for.
+    std::vector<std::string> sought;
     std::u16string styleFile = u"C:/Windows/Luna.msstyles";
     std::u16string scheme;
     int32_t styleResult = 0;

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Errors.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/theme/SkinPictures.h"
 #include "tests/theme/SkinWorld.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/StyleModule.h"
@@ -216,7 +218,117 @@ TEST_F(TaskbarSkin, SectionsWithoutPicturesDontCountAgainstIt) {
     EXPECT_EQ(skin->SkinName(), "Skin");
 }
 
+TEST_F(TaskbarSkin, OfFilesIsAskedForItsTaskbarFileAndThenForEachPicture) {
+    AddSkin("", "[A]\nImage=a.bmp\n[B]\nKey=Value\n[C]\nImage=sub\\c.bmp\n[D]\nImage=d.bmp\n");
+    world.AddFile("/skin/a.bmp");
+    Start("skin.uis");
+    const std::vector<std::string> expected{"/skin/XPStuff.xp", "/skin/a.bmp", "/skin/sub/c.bmp"};
+    ASSERT_GE(world.sought.size(), expected.size());
+    world.sought.resize(expected.size());  // one missing picture ends the search
+    EXPECT_EQ(world.sought, expected);
+}
+
+TEST_F(TaskbarSkin, ANamedTaskbarFileThatIsNotThereIsNotReplacedByTheUsualOne) {
+    AddStyle("blue");
+    AddSkin("[Style]\nName=uis\n[XPTaskbar]\nFile=own.xp\n", "[Style]\nName=usual\n");
+    EXPECT_EQ(Start("skin.uis"), "blue");
+    EXPECT_EQ(skin->GetIniString("XPTaskBar", "Style", "Name", ""), "taskbar of blue");
+}
+
+TEST_F(TaskbarSkin, PicturesBelongToTheSkinsFolderWhereverTheTaskbarFileLies) {
+    AddStyle("blue");
+    AddSkin("", "");
+    world.AddFile("/skin/sub/skin.uis", "[Style]\nName=uis\n");
+    world.AddFile("/skin/sub/XPStuff.xp", "[A]\nImage=a.bmp\n");
+    world.AddFile("/skin/sub/a.bmp");
+    EXPECT_EQ(Start("sub/skin.uis"), "blue");
+    world.AddFile("/skin/a.bmp");
+    skin->SkinName("Skin");
+    EXPECT_EQ(Start("sub/skin.uis"), "uis");
+}
+
+TEST_F(TaskbarSkin, WithoutItsUisFileIsUsedWithATaskbarFileAlone) {
+    world.AddFile("/skin/XPStuff.xp", "[Taskbar.Horz]\nFrameCount=3\n");
+    skin->SkinPath("/skin");
+    skin->SkinName("Skin");
+    EXPECT_EQ(Start("none.uis"), "");
+    EXPECT_EQ(skin->SkinName(), "Skin");
+    EXPECT_EQ(skin->Item("Taskbar.Horz")->FrameCount(), 3);
+    EXPECT_EQ(test::RaisedBy([&] { skin->Colour(0); }), 9);
+}
+
+// The name says that pictures come from the folder; without it they come from a module.
+TEST_F(TaskbarSkin, OfFilesWithoutANameHasNoParts) {
+    AddSkin("[Style]\nName=uis\n", "[Taskbar.Horz]\nFrameCount=3\n");
+    skin->SkinName("");
+    EXPECT_EQ(Start("skin.uis"), "uis");
+    EXPECT_EQ(skin->Item("Taskbar.Horz"), nullptr);
+    EXPECT_TRUE(world.kernel.calls.empty());
+}
+
+TEST_F(TaskbarSkin, PartsOfFilesHaveThePicturesOfTheFolder) {
+    const test::TemporaryFolder folder;
+    const String picture = folder.Write("TrayNotifyHorzArrow.tga", test::TgaBytes({9, 8, 7, 255}));
+    world.AddFile(picture.Utf8());
+    world.AddFile(folder.Path("skin.uis").Utf8(), "[Style]\nName=uis\n");
+    world.AddFile(folder.Path("XPStuff.xp").Utf8(), "[Style]\nName=taskbar\n");
+    skin->SkinPath(folder.Path());
+    skin->SkinName("Skin");
+    EXPECT_EQ(Start("skin.uis"), "uis");
+    ASSERT_NE(skin->Item("Taskbar.ButtonArrow")->Image(), nullptr);
+    EXPECT_EQ(skin->Item("Taskbar.ButtonArrow")->Image()->Width(), 12);
+    EXPECT_EQ(skin->Item("Taskbar.Horz")->Image(), nullptr);
+}
+
 // The reference and its module.
+
+TEST_F(TaskbarSkin, AReferenceEmptiesTheNameOfTheSkin) {
+    AddStyle("red", "Own.dll");
+    AddSkin("[Style]\nName=uis\n", "[Style]\nName=taskbar\n");
+    EXPECT_EQ(Start("res:Own:red"), "red");
+    EXPECT_EQ(skin->SkinName(), "");
+    EXPECT_EQ(skin->DefFile(), "res:Own:red");
+}
+
+TEST_F(TaskbarSkin, PartsOfAStyleHaveTheModulesPictures) {
+    AddStyle("blue");
+    world.resources["Image/TrayNotifyHorzArrow.tga"] = test::TgaBytes({9, 8, 7, 255});
+    Start("res:DefaultStyles:blue");
+    const Ref<ThemeItem> arrow = skin->Item("Taskbar.ButtonArrow");
+    ASSERT_NE(arrow->Image(), nullptr);
+    EXPECT_EQ(arrow->Image()->Width(), 12);
+    EXPECT_EQ(arrow->TransMode(), PerPixel);
+    EXPECT_EQ(skin->Item("Taskbar.Horz")->Image(), nullptr);
+}
+
+TEST_F(TaskbarSkin, AStyleThatTheModuleLacksIsOpenedEmpty) {
+    AddStyle("blue");
+    EXPECT_EQ(Start("res:DefaultStyles:green"), "");
+    EXPECT_EQ(skin->GetIniString("UIS", "Style", "Name", "open"), "open");
+    EXPECT_EQ(skin->GetIniString("XPTaskBar", "Style", "Name", "open"), "open");
+    for (const Part& part : kParts) EXPECT_NE(skin->Item(part.name), nullptr) << part.name;
+}
+
+TEST_F(TaskbarSkin, AModuleThatIsNowhereWasLookedForByNameInTheSkinsFolderAndInThePrograms) {
+    core7::FileSystem& files = core7::ThePathService().TheFileSystem();
+    const String folder = files.GetParentFolderName(kernel::TheKernel().GetProgramFileName());
+    skin->SkinPath("/skin");
+    Start("res:Own:red");
+    ASSERT_GE(world.sought.size(), 4u);
+    EXPECT_EQ(world.sought[0], "Own.dll");
+    EXPECT_EQ(world.sought[1], "/skin/Own.dll");
+    EXPECT_EQ(world.sought[2], files.BuildPath(folder, "Own.dll").Utf8());
+    EXPECT_EQ(world.sought.back(), "Own.dll");
+    EXPECT_TRUE(world.kernel.calls.empty());
+}
+
+TEST_F(TaskbarSkin, ABrokenReferenceLeavesNoSkinOpen) {
+    AddStyle("blue");
+    Start("res:DefaultStyles:blue");
+    EXPECT_EQ(test::RaisedBy([&] { Start("res:blue"); }), 5);
+    EXPECT_EQ(skin->GetIniString("UIS", "Style", "Name", "open"), "");
+    EXPECT_EQ(skin->Item("Taskbar.Horz"), nullptr);
+}
 
 TEST_F(TaskbarSkin, ReferencesAreTakenApartAtTheirLastColon) {
     struct Example {

@@ -115,6 +115,15 @@ TEST_F(ThemeDefine, TheImageKeysAreReadInFull) {
     EXPECT_EQ(item->TileBottom(), 0);
 }
 
+TEST_F(ThemeDefine, AnEdgeIsTiledForAnyNumberButNought) {
+    const Ref<ThemeItem> item = LoadItem("Image=strip.tga\nImageTile=2.5, 0.4, 0.0, -1, x\n");
+    EXPECT_EQ(item->Tile(), 2);  // halves go to even
+    EXPECT_EQ(item->TileLeft(), -1);
+    EXPECT_EQ(item->TileTop(), 0);
+    EXPECT_EQ(item->TileRight(), -1);
+    EXPECT_EQ(item->TileBottom(), 0);
+}
+
 TEST_F(ThemeDefine, TheBackColourStandsForTheKeyUntilThatIsGiven) {
     const Ref<ThemeItem> item = LoadItem(
         "Image=strip.tga\nImageBackColor=1,2,3\nGlyphImage=strip.tga\n"

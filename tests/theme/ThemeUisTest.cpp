@@ -1,10 +1,15 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 #include "tests/support/ActedKernel.h"
 #include "tests/support/GdiplusSession.h"
 #include "tests/support/Golden.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/text/ActedDefineFile.h"
 #include "tests/theme/SkinPictures.h"
+#include "tests/theme/SkinWorld.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
@@ -335,6 +340,68 @@ TEST_F(UisItem, TakesItsPicturesFromAModule) {
     EXPECT_EQ(item->TransMode(), PerPixel);
     EXPECT_EQ(PixelOf(item->Image()), kPremultiplied);
     Read("Image=none.bmp\n");
+    EXPECT_EQ(item->Image(), nullptr);
+}
+
+TEST_F(UisItem, TheSameRulesHoldForTheModesOfAModulesPictures) {
+    test::WritePng(folder.Path("a.png").Utf8(), {1, 1, {0x80402010}});
+    std::ifstream file(folder.Path("a.png").Utf8(), std::ios::binary);
+    const std::string png(std::istreambuf_iterator<char>(file), {});
+    UseModule({{"A.PNG", png}, {"a.bmp", test::BmpBytes(kPixel)}});
+    Read("Image=A.PNG\n");
+    ASSERT_NE(item->Image(), nullptr);
+    EXPECT_EQ(item->TransMode(), PerPixel);
+    item->TransMode(Normal);
+    Read("Image=a.bmp\nPerPixel=1\n");
+    EXPECT_EQ(item->TransMode(), PerPixel);
+    EXPECT_EQ(item->Image()->Flags() >> 31, 1u);  // premultiplied
+    item->TransMode(Normal);
+    Read("", "a.bmp");
+    EXPECT_NE(item->Image(), nullptr);
+    EXPECT_EQ(item->TransMode(), Normal);
+}
+
+// What is asked for.
+
+TEST_F(UisItem, TheKeysAreReadInTheirOrderEachWithItsDefault) {
+    folder.Write("a.bmp", test::BmpBytes(kPixel));
+    const Ref<test::ActedDefineFile> file = New<test::ActedDefineFile>();
+    file->values = {{"FrameCount", "2"},    {"GlyphImage", "a.bmp"}, {"FocusColour", "7"},
+                    {"PressedColour", "8"}, {"Trans", "1"},          {"Alpha", "9"}};
+    EXPECT_TRUE(item->FromUis(file, source, "S", "a.bmp"));
+    EXPECT_THAT(
+        file->reads,
+        testing::ElementsAre(
+            "text Image a.bmp", "integer PerPixel 0", "integer Trans 0", "integer Alpha 255",
+            "integer PerPixel 0", "integer FrameCount 0", "integer PartWidth -1",
+            "integer PartHeight -1", "text GlyphImage ", "integer GlyphFrames 0",
+            "integer GlyphTransMode 0", "integer GlyphVertAlign 0", "integer GlyphHorzAlign 0",
+            "integer LeftWidth 0", "integer RightWidth 0", "integer TopHeight 0",
+            "integer BottomHeight 0", "integer Tile 0", "integer TileTop 1", "integer TileBottom 1",
+            "integer TileLeft 1", "integer TileRight 1", "integer ContentLeft 0",
+            "integer ContentRight 0", "integer ContentTop 0", "integer ContentBottom 0",
+            "integer TextColour -1", "integer TextColourOver -1", "integer TextHorzAlignNormal 0",
+            "integer TextVertAlignNormal 0", "integer NormalColour -1", "integer FocusColour -1",
+            "integer PressedColour 7", "integer FocusPressedColour 8", "integer GroupColour -1",
+            "integer DisabledColour -1", "integer NormalFont -1", "integer TextFont -1",
+            "integer FocusFont -1", "integer TextFontOver -1", "integer PressedFont -1",
+            "integer FocusPressedFont -1", "integer GroupFont -1", "integer SmartSmallMargins 0",
+            "integer AnimTimerRate 0", "integer LoopBackDelay 0", "integer MouseEnterStartFrame 0",
+            "integer MouseOverStartFrame 0", "integer MouseOverStopFrame 0",
+            "integer MouseLeaveStopFrame 0", "integer MouseLeaveMode 0"));
+}
+
+TEST(UisFolder, IsItselfAskedForWhenNoImageIsNamed) {
+    test::SkinWorld world;
+    const Ref<core7::DefineFile> file = core7::CreateDefineFile();
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    EXPECT_TRUE(item->FromUis(file, String("/skins/flat.png"), "Item", ""));
+    EXPECT_EQ(world.sought, std::vector<std::string>{"/skins/flat.png"});
+    EXPECT_EQ(item->TransMode(), Normal);
+    // A folder that is there is no picture, but its name decides the mode like a picture's.
+    world.AddFile("/skins/flat.png");
+    EXPECT_TRUE(item->FromUis(file, String("/skins/flat.png"), "Item", ""));
+    EXPECT_EQ(item->TransMode(), PerPixel);
     EXPECT_EQ(item->Image(), nullptr);
 }
 

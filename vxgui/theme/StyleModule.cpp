@@ -36,6 +36,7 @@ String CurrentColourSchemeName() {
     char16_t file[kLength] = {}, colour[kLength] = {}, size[kLength] = {};
     const int32_t result =
         gServices.currentThemeName(file, kLength, colour, kLength, size, kLength);
+    file[kLength - 1] = colour[kLength - 1] = 0;  // whatever the service wrote
     const bool schemed = String(file).Right(kSchemedStyleLength).EqualsNoCase(kSchemedStyle);
     return result == uxtheme::S_OK && schemed ? String(colour) : String();
 }

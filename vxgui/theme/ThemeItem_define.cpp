@@ -2,6 +2,7 @@
 
 #include "vxgui/base/NumberText.h"
 #include "vxgui/base/Rounding.h"
+#include "vxgui/frame/Services.h"
 #include "vxgui/text/ColorText.h"
 #include "vxgui/text/DefineSection.h"
 #include "vxgui/theme/ThemeItem.h"
@@ -17,12 +18,12 @@ int32_t ColourOf(const DefineSection& read, const char* key) {
 
 // The numbers of a list. It must have at least `Count` parts; more are ignored.
 template <size_t Count>
-std::array<int32_t, Count> ListOf(const String& list) {
+std::array<double, Count> NumbersOf(const String& list) {
     const std::vector<String> parts = list.Split(u',');
     if (parts.size() < Count)
         throw Error(ErrorNumber::Subscript, "ThemeItem", "List too short: " + list);
-    std::array<int32_t, Count> numbers;
-    for (size_t i = 0; i < Count; ++i) numbers[i] = RoundHalfEven(LeadingNumber(parts[i]));
+    std::array<double, Count> numbers;
+    for (size_t i = 0; i < Count; ++i) numbers[i] = LeadingNumber(parts[i]);
     return numbers;
 }
 
@@ -30,8 +31,8 @@ template <class Set>
 void MarginFrom(const DefineSection& read, const char* key, Set set) {
     const String list = read.Text(key);
     if (list.empty()) return;
-    const auto [left, top, right, bottom] = ListOf<4>(list);
-    set(left, top, right, bottom);
+    const auto [left, top, right, bottom] = NumbersOf<4>(list);
+    set(RoundHalfEven(left), RoundHalfEven(top), RoundHalfEven(right), RoundHalfEven(bottom));
 }
 
 Variant PartsOf(const String& list) {
@@ -45,7 +46,7 @@ Variant PartsOf(const String& list) {
 Ref<cAlphaDIBSection> Load(const String& basePath, const String& name, int32_t background) {
     Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
     surface->TransparentColor(background);
-    const String path = core7::ThePathService().TheFileSystem().BuildPath(basePath, name);
+    const String path = gServices.pathService().TheFileSystem().BuildPath(basePath, name);
     return surface->CreateFromPictureFile(path) ? surface : nullptr;
 }
 
@@ -79,8 +80,9 @@ void ThemeItem::ReadImage(const DefineSection& read, const String& basePath) {
     if (!read.Text("TransColor").empty()) image_->TransparentColor(ColourOf(read, "TransColor"));
     MarginFrom(read, "ImageMargin", [&](auto... sides) { SetImageMargin(sides...); });
     if (const String list = read.Text("ImageTile"); !list.empty()) {
-        const auto [tile, left, top, right, bottom] = ListOf<5>(list);
-        SetTile(tile, left, top, right, bottom);
+        // Any part but 0 says yes for its edge, a fraction too.
+        const auto [tile, left, top, right, bottom] = NumbersOf<5>(list);
+        SetTile(RoundHalfEven(tile), left != 0, top != 0, right != 0, bottom != 0);
     }
 }
 

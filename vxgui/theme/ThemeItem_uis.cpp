@@ -60,15 +60,16 @@ void ThemeItem::ReadUisImage(const DefineSection& read, const UisSource& source,
     const Ref<cAlphaDIBSection> surface = Load(source, name);
     if (!surface) return;
     // Formats with an alpha channel are per-pixel by nature, bitmaps on request.
-    const bool perPixel = read.Integer("PerPixel") != 0;
-    if (EndsWith(name, ".tga") || EndsWith(name, ".png") || perPixel) TransMode(PerPixel);
+    const auto asksForPerPixel = [&] { return read.Integer("PerPixel") != 0; };
+    const bool hasAlpha = EndsWith(name, ".tga") || EndsWith(name, ".png");
+    if (hasAlpha || asksForPerPixel()) TransMode(PerPixel);
     if (!IsPicture(surface)) return;
     image_ = surface;
     if (read.Integer("Trans") != 0) TransMode(Trans);
     imageAlpha_ = static_cast<uint8_t>(read.Integer("Alpha", "255"));
     if (TransMode() == Trans && imageAlpha_ < kOpaqueAlpha) {
         image_->SetTransColor(DefaultTransColor);
-        if (perPixel) TransMode(PerPixel);
+        if (asksForPerPixel()) TransMode(PerPixel);
     }
     if (TransMode() == PerPixel) image_->PreMultiplyAlpha();
 }
@@ -82,8 +83,8 @@ void ThemeItem::ReadUisGlyph(const DefineSection& read, const UisSource& source)
     glyphFrameCount_ = read.Integer("GlyphFrames");
     if (glyphFrameCount_ < 1) glyphFrameCount_ = frameCount_;
     GlyphTransMode(read.Integer("GlyphTransMode"));
-    glyphAlign_ =
-        WrapAdd(read.Integer("GlyphVertAlign"), WrapMul(3, read.Integer("GlyphHorzAlign")));
+    const int32_t row = read.Integer("GlyphVertAlign"), column = read.Integer("GlyphHorzAlign");
+    glyphAlign_ = WrapAdd(row, WrapMul(3, column));
     if (glyph_->HasAlphaChannel(0, 0, -1, -1)) glyph_->PreMultiplyAlpha();
 }
 
