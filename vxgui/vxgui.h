@@ -6,6 +6,7 @@
 #include "vxgui/frame/Version.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 #include "vxgui/gdip/GpFont.h"
+#include "vxgui/gdip/GpGraphics.h"
 #include "vxgui/gdip/GpFontCollection.h"
 #include "vxgui/gdip/GpStringFormat.h"
 #include "vxgui/platform/core7.h"

@@ -4,7 +4,7 @@
 #include "vxgui/base/Error.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 #include "vxgui/frame/modGdiplus.h"
-#include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/platform/gdi_dib.h"
 
 namespace vxgui {
 namespace {
@@ -122,6 +122,70 @@ TEST_F(PictureCalls, GiveTheHostAnImageOfItsOwn) {
     EXPECT_EQ(width, 13u);
     EXPECT_EQ(flat::GdipDisposeImage(image), gdiplus::Ok);
     EXPECT_EQ(Global().GdipLoadImageFromFile("/no/such/file.png"), nullptr);
+}
+
+/// An image of 13 by 11 pixels to be painted on a context of 20 by 20 black ones.
+class PaintedImages : public PictureCalls {
+protected:
+    PaintedImages() {
+        Global();  // starts what painting needs
+        uint8_t* bits = nullptr;
+        dib_ = gdi::CreateDib(20, 20, 32, &bits);
+        dc_ = gdi::CreateCompatibleDC(nullptr);
+        gdi::SelectObject(dc_, dib_);
+        gdi::PatBlt(dc_, 0, 0, 20, 20, gdi::BLACKNESS);
+        gdiplus::GpBitmap* bitmap = nullptr;
+        flat::GdipCreateBitmapFromScan0(13, 11, 0, gdiplus::PixelFormat32bppARGB, nullptr, &bitmap);
+        image_ = reinterpret_cast<gdiplus::GpImage*>(bitmap);
+        gdiplus::GpGraphics* graphics = nullptr;
+        flat::GdipGetImageGraphicsContext(image_, &graphics);
+        flat::GdipGraphicsClear(graphics, 0xFFFFFFFF);
+        flat::GdipDeleteGraphics(graphics);
+    }
+    ~PaintedImages() override {
+        flat::GdipDisposeImage(image_);
+        gdi::DeleteDC(dc_);
+        gdi::DeleteObject(dib_);
+    }
+    COLORREF At(int x, int y) const { return gdi::GetPixel(dc_, x, y); }
+
+    gdi::HBITMAP dib_ = nullptr;
+    gdi::HDC dc_ = nullptr;
+    gdiplus::GpImage* image_ = nullptr;
+};
+
+TEST_F(PaintedImages, HaveTheirOwnSizeByDefault) {
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, image_), -1);
+    EXPECT_EQ(At(12, 10), 0xFFFFFFu);
+    EXPECT_EQ(At(13, 10), 0u);
+    EXPECT_EQ(At(12, 11), 0u);
+}
+
+TEST_F(PaintedImages, AreStretchedToTheTarget) {
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, image_, 2, 3, 4, 5, 1, 1, 2, 2), -1);
+    EXPECT_EQ(At(1, 3), 0u);
+    EXPECT_EQ(At(2, 3), 0xFFFFFFu);
+    EXPECT_EQ(At(5, 7), 0xFFFFFFu);
+    EXPECT_EQ(At(6, 7), 0u);
+}
+
+TEST_F(PaintedImages, ShineThroughByTheirAlphaAndIgnoreTheKey) {
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, image_, 0, 0, -1, -1, 0, 0, -1, -1, 128, 0xFFFFFF),
+              -1);
+    EXPECT_EQ(At(3, 3), 0x808080u);
+}
+
+TEST_F(PaintedImages, NeedNoAttributesAtFullAlpha) {
+    UnbindAllStubs();
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, image_), -1);
+    EXPECT_FALSE(flat::GdipCreateImageAttributes.IsBound());
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, image_, 0, 0, -1, -1, 0, 0, -1, -1, 254), -1);
+    EXPECT_TRUE(flat::GdipCreateImageAttributes.IsBound());
+}
+
+TEST_F(PaintedImages, AnswerFalseWithoutAContextOrAnImage) {
+    EXPECT_EQ(Global().GdipPaintPicture(nullptr, image_), 0);
+    EXPECT_EQ(Global().GdipPaintPicture(dc_, nullptr), 0);
 }
 
 }  // namespace

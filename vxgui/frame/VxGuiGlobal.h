@@ -66,6 +66,14 @@ public:
                          int32_t TransparentColor = -1);
     /// An image that the host disposes of; null when the file can't be read.
     gdiplus::GpImage* GdipLoadImageFromFile(const String& Filename);
+    /// Draws an image, and answers whether that succeeded. A source size of -1 is the image's, a
+    /// target size of -1 the source's. `TransparentColor` has no effect.
+    int32_t GdipPaintPicture(gdi::HDC hdcDst, gdiplus::GpImage* GdipLoadImage,
+                             int32_t nXOriginDst = 0, int32_t nYOriginDst = 0,
+                             int32_t nWidthDst = -1, int32_t nHeightDst = -1,
+                             int32_t nXOriginSrc = 0, int32_t nYOriginSrc = 0,
+                             int32_t nWidthSrc = -1, int32_t nHeightSrc = -1, uint8_t Alpha = 255,
+                             int32_t TransparentColor = -1);
 
     /// Draws text with a shadow: `Style` 1 a soft one, 2 a blurred black one, 3 a glow; any other
     /// draws nothing. With DT_CALCRECT it only measures, into the rectangle. Answers 0.
