@@ -26,6 +26,9 @@ bool IsPart(const String& section) {
                        [&](const SkinPart& part) { return section.EqualsNoCase(part.name); });
 }
 
+// The dialect has no captions; this one is short enough for nine states side by side.
+const char* const kCaption = "Text";
+
 /// One of the two define files of a skin.
 struct Dialect {
     Ref<core7::DefineFile> file;
@@ -80,7 +83,7 @@ private:
         String caption;
         if (HasKey(*from.file, section, "NormalColour") ||
             HasKey(*from.file, section, "TextColour")) {
-            caption = section.Mid(section.view().rfind(u'.') + 1);
+            caption = kCaption;
             StyleCaption(*from.file, section, *item);
         }
         skin_.items.push_back({section, section, caption, item});
