@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include "tests/qt6/DialogHand.h"
+#include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
@@ -194,6 +195,20 @@ TEST_F(RealDialog, GrowsWithTheFont) {
     QApplication::setFont(normal);
 }
 
+TEST_F(RealDialog, PanesShowEachPixelOfTheScreen) {
+    Show([this](QDialog& dialog) {
+        auto& pane = Control<QWidget>(dialog, "Picture2");
+        const QImage shown = pane.grab().toImage();
+        EXPECT_EQ(shown.width(), qRound(pane.width() * pane.devicePixelRatioF()));
+        // One pixel of the picture to one of the screen, whatever the ratio.
+        for (int i = 0; i < 100; i += 9) {
+            EXPECT_EQ(shown.pixel(i, i) & 0xFFFFFF,
+                      static_cast<uint32_t>(surface_->GetPixel(i, i)) & 0xFFFFFF);
+        }
+        Click(dialog, "cmdCancel");
+    });
+}
+
 TEST_F(RealDialog, OpensAThousandTimesWithoutGrowing) {
     const auto open = [&] {
         surface_ = New<cAlphaDIBSection>();
@@ -202,8 +217,10 @@ TEST_F(RealDialog, OpensAThousandTimesWithoutGrowing) {
     };
     for (int i = 0; i < 100; ++i) open();
     const size_t before = mallinfo2().uordblks;
+    const size_t handles = gdi::HandleTable::LiveCount();
     for (int i = 0; i < 900; ++i) open();
     const size_t after = mallinfo2().uordblks;
+    EXPECT_EQ(gdi::HandleTable::LiveCount(), handles);
     EXPECT_LT(after, before + 512 * 1024) << "a dialog left memory behind";
 }
 
