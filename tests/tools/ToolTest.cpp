@@ -37,7 +37,7 @@ TEST(ToolHelp, ShowsTheCommandsAndExamples) {
     EXPECT_THAT(result.out, HasSubstr("unpack"));
     EXPECT_THAT(result.out, HasSubstr("Examples:"));
     for (const char* command :
-         {"gallery", "render", "compile", "pack", "unpack", "convert", "adjust", "info"}) {
+         {"gallery", "render", "check", "compile", "pack", "unpack", "convert", "adjust", "info"}) {
         const Result help = Call({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr("Example"));

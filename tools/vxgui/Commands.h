@@ -11,6 +11,7 @@ namespace vxgui::tool {
 // Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`;
 // how far it has got goes to `progress`, as long as that is a terminal.
 void AddAdjust(CLI::App& app, std::ostream& out, std::ostream& progress);
+void AddCheck(CLI::App& app, std::ostream& out);
 void AddCompile(CLI::App& app, std::ostream& out);
 void AddConvert(CLI::App& app, std::ostream& out, std::ostream& progress);
 void AddGallery(CLI::App& app, std::ostream& out);

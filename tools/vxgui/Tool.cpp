@@ -15,6 +15,7 @@ constexpr const char* kExamples =
     "  vxgui gallery skins/porcelain/porcelain.uis --desktop -o desktop.png\n"
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
+    "  vxgui check skins/aurora/aurora.theme\n"
     "  vxgui compile skins/aurora/aurora.theme -o aurora.vxs\n"
     "  vxgui pack styles -o DefaultStyles.dll\n"
     "  vxgui convert skins/aurora/button.tga -o button.png\n"
@@ -53,6 +54,7 @@ int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream&
     app.footer(kExamples);
     app.require_subcommand(1);
     AddAdjust(app, out, errors);
+    AddCheck(app, out);
     AddCompile(app, out);
     AddConvert(app, out, errors);
     AddGallery(app, out);

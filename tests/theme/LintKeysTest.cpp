@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "vxgui/theme/SkinDef.h"
+#include "vxgui/theme/ThemeSet.h"
+#include "vxgui/theme/lint/KeyTable.h"
+
+namespace vxgui::lint {
+namespace {
+
+/// A define file with one value for each key, which remembers what it was asked for.
+class AskedFile : public core7::DefineFile {
+public:
+    explicit AskedFile(std::map<std::string, std::string> values) : values_(std::move(values)) {}
+
+    String GetString(const String&, const String& key, const String& fallback) override {
+        asked.insert(key.Utf8());
+        const auto found = values_.find(key.Utf8());
+        return found == values_.end() ? fallback : String(found->second);
+    }
+    int32_t GetInteger(const String& section, const String& key, const String& fallback) override {
+        return std::atoi(GetString(section, key, fallback).Utf8().c_str());
+    }
+    double GetNumber(const String& section, const String& key, const String& fallback) override {
+        return GetInteger(section, key, fallback);
+    }
+    std::vector<String> SectionNames() override { return {}; }
+    std::vector<String> KeyNames(const String&) override { return {}; }
+    bool OpenFile(const String&) override { return true; }
+    bool LoadText(const String&) override { return true; }
+    String Path() const override { return {}; }
+    const std::vector<core7::DefineProblem>& Problems() const override { return problems_; }
+    core7::DefinePosition PositionOf(const String&, const String&) const override { return {}; }
+    core7::DefinePosition PositionOf(const String&) const override { return {}; }
+
+    std::set<std::string> asked;
+
+private:
+    std::map<std::string, std::string> values_;
+    std::vector<core7::DefineProblem> problems_;
+};
+
+using Values = std::map<std::string, std::string>;
+
+/// All keys that a reader asks for, over files that lead it down each of its ways.
+template <class Read>
+std::set<std::string> AskedBy(Read read, const std::vector<Values>& files) {
+    std::set<std::string> asked;
+    for (const Values& values : files) {
+        const Ref<AskedFile> file = New<AskedFile>(values);
+        read(file);
+        asked.insert(file->asked.begin(), file->asked.end());
+    }
+    return asked;
+}
+
+std::set<std::string> NamesOf(KeyTable table) {
+    std::set<std::string> names;
+    for (const KeyRule& rule : table) EXPECT_TRUE(names.insert(rule.name).second) << rule.name;
+    return names;
+}
+
+const char* const kFolder = VXGUI_SOURCE_DIR "/skins/aurora";
+
+TEST(LintKeys, AreThoseThatAThemeSetsItemsAreReadBy) {
+    const auto read = [](const Ref<core7::DefineFile>& file) {
+        New<ThemeItem>()->FromThemeDefine(file, "Theme_01", New<ThemeSet>(), kFolder);
+    };
+    std::set<std::string> asked =
+        AskedBy(read, {{{"Image", "button.tga"}, {"GlyphImage", "button.tga"}}});
+    asked.insert({"Name", "Caption"});  // the tool's
+    EXPECT_EQ(asked, NamesOf(ThemeItemKeys()));
+}
+
+TEST(LintKeys, AreThoseThatAThemeSetIsReadBy) {
+    const auto read = [](const Ref<core7::DefineFile>& file) {
+        ThemeSetFromDefine(New<ThemeSet>(), file, kFolder);
+    };
+    EXPECT_EQ(AskedBy(read, {{}}), NamesOf(ThemeSetKeys()));
+}
+
+TEST(LintKeys, AreThoseThatUisItemsAreReadBy) {
+    const auto read = [](const Ref<core7::DefineFile>& file) {
+        New<ThemeItem>()->FromUis(file, String(kFolder), "Button", "");
+    };
+    EXPECT_EQ(
+        AskedBy(read,
+                {{{"Image", "button.tga"}, {"GlyphImage", "button.tga"}, {"FrameCount", "2"}}}),
+        NamesOf(UisItemKeys()));
+}
+
+TEST(LintKeys, AreThoseThatFontsAndStylesAreReadBy) {
+    const auto readStyle = [](const Ref<core7::DefineFile>& file) {
+        New<TextStyle>()->FromIniFile(file, "");
+    };
+    const auto readFont = [](const Ref<core7::DefineFile>& file) {
+        New<LFont>()->FromIniFile(file, "");
+    };
+    EXPECT_EQ(AskedBy(readStyle,
+                      {{}, {{"DrawStyle", "5"}}, {{"DrawStyle", "5"}, {"ShadowOffsetY", "1"}}}),
+              NamesOf(TextStyleKeys()));
+    EXPECT_EQ(AskedBy(readFont, {{}}), NamesOf(FontKeys()));
+}
+
+TEST(LintKeys, AreFoundInAnyCase) {
+    EXPECT_STREQ(FindKey(FontKeys(), "fontNAME")->name, "FontName");
+    EXPECT_EQ(FindKey(FontKeys(), "FontNam"), nullptr);
+}
+
+}  // namespace
+}  // namespace vxgui::lint
