@@ -54,15 +54,37 @@ VXPLATFORM_API GpStatus GdipSetStringFormatMeasurableCharacterRanges(GpStringFor
 VXPLATFORM_API GpStatus
 GdipGetStringFormatMeasurableCharacterRangeCount(const GpStringFormat* format, INT* count);
 
+/// Draws a string with the top left of its layout at that of a rectangle, whose sides bound it
+/// where they are above 0. A null format is the generic default; `length` -1 is up to the zero.
+VXPLATFORM_API GpStatus GdipDrawString(GpGraphics* graphics, const WCHAR* string, INT length,
+                                       const GpFont* font, const GpRectF* layoutRect,
+                                       const GpStringFormat* stringFormat, const GpBrush* brush);
+/// The box of what `GdipDrawString` would draw, and how many 16-bit units and lines have a place.
+/// The two counters may be null.
+VXPLATFORM_API GpStatus GdipMeasureString(GpGraphics* graphics, const WCHAR* string, INT length,
+                                          const GpFont* font, const GpRectF* layoutRect,
+                                          const GpStringFormat* stringFormat, GpRectF* boundingBox,
+                                          INT* codepointsFitted, INT* linesFilled);
+/// Adds the outlines of a string to a path. `emSize` is in the path's own units.
+VXPLATFORM_API GpStatus GdipAddPathString(GpPath* path, const WCHAR* string, INT length,
+                                          const GpFontFamily* family, INT style, REAL emSize,
+                                          const GpRectF* layoutRect, const GpStringFormat* format);
+VXPLATFORM_API GpStatus GdipAddPathStringI(GpPath* path, const WCHAR* string, INT length,
+                                           const GpFontFamily* family, INT style, REAL emSize,
+                                           const GpRect* layoutRect, const GpStringFormat* format);
+
 }  // extern "C"
 
 }  // namespace vxgui::gdiplus
 
 /// The functions above, for the tables that list all.
 #define VXGUI_GDIPLUS_STRINGS(X)                        \
+    X(GdipAddPathString)                                \
+    X(GdipAddPathStringI)                               \
     X(GdipCloneStringFormat)                            \
     X(GdipCreateStringFormat)                           \
     X(GdipDeleteStringFormat)                           \
+    X(GdipDrawString)                                   \
     X(GdipGetStringFormatAlign)                         \
     X(GdipGetStringFormatDigitSubstitution)             \
     X(GdipGetStringFormatFlags)                         \
@@ -72,6 +94,7 @@ GdipGetStringFormatMeasurableCharacterRangeCount(const GpStringFormat* format, I
     X(GdipGetStringFormatTabStopCount)                  \
     X(GdipGetStringFormatTabStops)                      \
     X(GdipGetStringFormatTrimming)                      \
+    X(GdipMeasureString)                                \
     X(GdipSetStringFormatAlign)                         \
     X(GdipSetStringFormatDigitSubstitution)             \
     X(GdipSetStringFormatFlags)                         \

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Canvas.h"
+#include "vxgui/platform/gdi/text/ItemShaper.h"
 #include "vxgui/platform/gdi/text/Shaper.h"
 #include "vxgui/platform/gdi/text/TextEngine.h"
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/GdiplusSession.h"
+#include "vxgui/base/String.h"
 #include "vxgui/platform/gdiplus/FlatObject.h"
 
 namespace vxgui::gdiplus {

@@ -26,7 +26,9 @@ void CopyRow(const FT_Bitmap& bitmap, uint32_t row, uint8_t* coverage) {
     }
 }
 
-GlyphImage ImageOf(const FT_GlyphSlot slot) {
+}  // namespace
+
+GlyphImage ImageOf(FT_GlyphSlot slot) {
     GlyphImage image;
     const FT_Bitmap& bitmap = slot->bitmap;
     if (bitmap.width == 0 || bitmap.rows == 0) return image;
@@ -40,8 +42,6 @@ GlyphImage ImageOf(const FT_GlyphSlot slot) {
     }
     return image;
 }
-
-}  // namespace
 
 size_t GlyphKeyHash::operator()(const GlyphKey& key) const {
     size_t hash = MixHash(key.face, key.glyph);

@@ -16,6 +16,9 @@ struct GlyphImage {
     std::vector<uint8_t> coverage;
 };
 
+/// The image of a glyph that has been rendered in its slot.
+GlyphImage ImageOf(FT_GlyphSlot slot);
+
 struct GlyphKey {
     uint64_t face;
     uint32_t glyph;

@@ -1,23 +1,11 @@
 #include "vxgui/platform/gdi/text/Shaper.h"
 
 #include "vxgui/base/Rounding.h"
+#include "vxgui/platform/gdi/text/ItemShaper.h"
 #include "vxgui/platform/gdi/text/TextEngine.h"
-#include "vxgui/platform/gdi/text/Utf8Text.h"
 
 namespace vxgui::gdi {
 namespace {
-
-struct FreeItems {
-    void operator()(GList* items) const {
-        g_list_free_full(items,
-                         [](gpointer item) { pango_item_free(static_cast<PangoItem*>(item)); });
-    }
-};
-using Items = std::unique_ptr<GList, FreeItems>;
-
-struct FreeGlyphs {
-    void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
-};
 
 /// Shapes one piece and appends it.
 class Piece {
@@ -26,34 +14,13 @@ public:
         : font_(font), text_(text), utf8_(text), firstUnit_(firstUnit), shaped_(shaped) {}
 
     void Append(PangoAttrList* attributes, bool rightToLeft) {
-        const PangoDirection base = rightToLeft ? PANGO_DIRECTION_RTL : PANGO_DIRECTION_LTR;
-        const Items logical(pango_itemize_with_base_dir(font_.Context(), base, utf8_.bytes.data(),
-                                                        0, static_cast<int>(utf8_.bytes.size()),
-                                                        attributes, nullptr));
-        GList* visual = pango_reorder_items(logical.get());
-        for (const GList* at = visual; at; at = at->next)
-            AppendItem(*static_cast<PangoItem*>(at->data));
-        g_list_free(visual);
+        ShapeItems(font_.Context(), attributes, utf8_, rightToLeft, [this](const ItemGlyph& glyph) {
+            const auto face = static_cast<uint16_t>(glyph.font ? font_.FaceOf(glyph.font) : 0);
+            AppendGlyph(glyph.info, face, glyph.unit, glyph.endsCluster);
+        });
     }
 
 private:
-    void AppendItem(const PangoItem& item) {
-        const std::unique_ptr<PangoGlyphString, FreeGlyphs> glyphs(pango_glyph_string_new());
-        pango_shape_full(utf8_.bytes.data() + item.offset, item.length, utf8_.bytes.data(),
-                         static_cast<int>(utf8_.bytes.size()), &item.analysis, glyphs.get());
-        const auto face =
-            static_cast<uint16_t>(item.analysis.font ? font_.FaceOf(item.analysis.font) : 0);
-        for (int i = 0; i < glyphs->num_glyphs; ++i) {
-            const bool last = i + 1 == glyphs->num_glyphs ||
-                              glyphs->log_clusters[i + 1] != glyphs->log_clusters[i];
-            AppendGlyph(glyphs->glyphs[i], face, UnitOf(item, glyphs->log_clusters[i]), last);
-        }
-    }
-
-    int32_t UnitOf(const PangoItem& item, int cluster) const {
-        return utf8_.units[static_cast<size_t>(item.offset + cluster)];
-    }
-
     void AppendGlyph(const PangoGlyphInfo& info, uint16_t face, int32_t unit, bool endsCluster) {
         ShapedGlyph glyph{info.glyph, face, true, endsCluster, unit + firstUnit_, 0, 0, 0};
         const bool missing = (info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
@@ -90,13 +57,6 @@ private:
     ShapedText& shaped_;
 };
 
-/// The length of the next piece; a pair of surrogates stays together.
-size_t PieceLength(std::u16string_view rest) {
-    if (rest.size() <= kLongestPiece) return rest.size();
-    const bool splitsPair = (rest[kLongestPiece - 1] & 0xFC00) == 0xD800;
-    return kLongestPiece - (splitsPair ? 1 : 0);
-}
-
 }  // namespace
 
 ShapedTextRef Shape(TextEngine& engine, RealizedFont& font, std::u16string_view text,
@@ -105,12 +65,10 @@ ShapedTextRef Shape(TextEngine& engine, RealizedFont& font, std::u16string_view 
     if (const ShapedTextRef* known = engine.Shapes().Find(key)) return *known;
     auto shaped = std::make_shared<ShapedText>();
     shaped->advances.resize(text.size());
-    for (size_t at = 0; at < text.size();) {
-        const size_t length = PieceLength(text.substr(at));
-        Piece(font, text.substr(at, length), static_cast<int32_t>(at), *shaped)
+    ForEachPiece(text, [&](std::u16string_view piece, size_t first) {
+        Piece(font, piece, static_cast<int32_t>(first), *shaped)
             .Append(engine.Attributes(), rightToLeft);
-        at += length;
-    }
+    });
     engine.Shapes().Insert(key, shaped);
     return shaped;
 }

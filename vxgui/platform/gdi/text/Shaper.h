@@ -7,10 +7,6 @@
 
 namespace vxgui::gdi {
 
-/// A longer line is shaped in pieces of this many units, one after the other, so that memory and
-/// time stay in line with its length.
-constexpr size_t kLongestPiece = 16384;
-
 /// Shapes a line: scripts, writing directions and missing characters are taken care of. Every
 /// advance is a whole number of pixels, and neighbours don't change it: a text is as wide as its
 /// words and spaces together.

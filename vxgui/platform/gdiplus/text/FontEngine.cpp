@@ -14,6 +14,7 @@ FontEngine::FontEngine() { FT_Init_FreeType(&library_); }
 
 FontEngine::~FontEngine() {
     // The typefaces hold faces, which end before their library.
+    layouts_.Clear();
     typefaces_.Clear();
     maps_.Clear();
     FT_Done_FreeType(library_);

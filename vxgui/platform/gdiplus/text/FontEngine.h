@@ -1,7 +1,8 @@
 #pragma once
 
 #include "vxgui/platform/gdi/text/LruCache.h"
-#include "vxgui/platform/gdiplus/text/Typeface.h"
+#include "vxgui/platform/gdiplus/text/GlyphMasks.h"
+#include "vxgui/platform/gdiplus/text/LayoutCache.h"
 
 namespace vxgui::gdiplus {
 
@@ -21,7 +22,8 @@ public:
     /// None for a file that can't be read. Paths mean files within a source.
     std::shared_ptr<gdi::FontFace> OpenFace(uint64_t source, const std::string& path, int index);
 
-    FT_Library Library() const { return library_; }
+    GlyphMasks& Glyphs() { return glyphs_; }
+    LayoutCache& Layouts() { return layouts_; }
 
 private:
     struct MapEnd {
@@ -40,6 +42,8 @@ private:
     gdi::LruCache<uint64_t, FontMap, std::hash<uint64_t>> maps_{kKeptMaps};
     gdi::LruCache<uint64_t, std::shared_ptr<Typeface>, std::hash<uint64_t>> typefaces_{
         kKeptTypefaces};
+    GlyphMasks glyphs_;
+    LayoutCache layouts_;
 };
 
 /// The measures of a family in a style.
