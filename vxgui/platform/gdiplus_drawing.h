@@ -45,6 +45,45 @@ VXPLATFORM_API GpStatus GdipFillRectanglesI(GpGraphics* graphics, GpBrush* brush
                                             const GpRect* rects, INT count);
 VXPLATFORM_API GpStatus GdipFillPath(GpGraphics* graphics, GpBrush* brush, GpPath* path);
 
+// Figures, as a path would have them. Angles are in degrees, clockwise from the x axis. A polygon
+// is closed; Bezier curves are a start and three points each.
+VXPLATFORM_API GpStatus GdipDrawEllipse(GpGraphics* graphics, GpPen* pen, REAL x, REAL y,
+                                        REAL width, REAL height);
+VXPLATFORM_API GpStatus GdipDrawEllipseI(GpGraphics* graphics, GpPen* pen, INT x, INT y, INT width,
+                                         INT height);
+VXPLATFORM_API GpStatus GdipFillEllipse(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y,
+                                        REAL width, REAL height);
+VXPLATFORM_API GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y,
+                                         INT width, INT height);
+VXPLATFORM_API GpStatus GdipDrawArc(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width,
+                                    REAL height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipDrawArcI(GpGraphics* graphics, GpPen* pen, INT x, INT y, INT width,
+                                     INT height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipDrawPie(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width,
+                                    REAL height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipDrawPieI(GpGraphics* graphics, GpPen* pen, INT x, INT y, INT width,
+                                     INT height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipFillPie(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y,
+                                    REAL width, REAL height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipFillPieI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
+                                     INT height, REAL startAngle, REAL sweepAngle);
+VXPLATFORM_API GpStatus GdipDrawPolygon(GpGraphics* graphics, GpPen* pen, const GpPointF* points,
+                                        INT count);
+VXPLATFORM_API GpStatus GdipDrawPolygonI(GpGraphics* graphics, GpPen* pen, const GpPoint* points,
+                                         INT count);
+VXPLATFORM_API GpStatus GdipFillPolygon(GpGraphics* graphics, GpBrush* brush,
+                                        const GpPointF* points, INT count, FillMode fillMode);
+VXPLATFORM_API GpStatus GdipFillPolygonI(GpGraphics* graphics, GpBrush* brush,
+                                         const GpPoint* points, INT count, FillMode fillMode);
+VXPLATFORM_API GpStatus GdipDrawBezier(GpGraphics* graphics, GpPen* pen, REAL x1, REAL y1, REAL x2,
+                                       REAL y2, REAL x3, REAL y3, REAL x4, REAL y4);
+VXPLATFORM_API GpStatus GdipDrawBezierI(GpGraphics* graphics, GpPen* pen, INT x1, INT y1, INT x2,
+                                        INT y2, INT x3, INT y3, INT x4, INT y4);
+VXPLATFORM_API GpStatus GdipDrawBeziers(GpGraphics* graphics, GpPen* pen, const GpPointF* points,
+                                        INT count);
+VXPLATFORM_API GpStatus GdipDrawBeziersI(GpGraphics* graphics, GpPen* pen, const GpPoint* points,
+                                         INT count);
+
 // Images. Negative sizes mirror. A part's own border isn't crossed by filters, so that what stands
 // beside it in the image doesn't bleed in. Beyond the image's border nothing is drawn, unless the
 // attributes give a wrap mode. By default pixels are sampled at their upper left corners, those of
@@ -110,7 +149,15 @@ VXPLATFORM_API GpStatus GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitma
 #define VXGUI_GDIPLUS_DRAWING(X) \
     X(GdipCreateCachedBitmap)    \
     X(GdipDeleteCachedBitmap)    \
+    X(GdipDrawArc)               \
+    X(GdipDrawArcI)              \
+    X(GdipDrawBezier)            \
+    X(GdipDrawBezierI)           \
+    X(GdipDrawBeziers)           \
+    X(GdipDrawBeziersI)          \
     X(GdipDrawCachedBitmap)      \
+    X(GdipDrawEllipse)           \
+    X(GdipDrawEllipseI)          \
     X(GdipDrawImage)             \
     X(GdipDrawImageI)            \
     X(GdipDrawImagePointRect)    \
@@ -128,11 +175,21 @@ VXPLATFORM_API GpStatus GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitma
     X(GdipDrawLines)             \
     X(GdipDrawLinesI)            \
     X(GdipDrawPath)              \
+    X(GdipDrawPie)               \
+    X(GdipDrawPieI)              \
+    X(GdipDrawPolygon)           \
+    X(GdipDrawPolygonI)          \
     X(GdipDrawRectangle)         \
     X(GdipDrawRectangleI)        \
     X(GdipDrawRectangles)        \
     X(GdipDrawRectanglesI)       \
+    X(GdipFillEllipse)           \
+    X(GdipFillEllipseI)          \
     X(GdipFillPath)              \
+    X(GdipFillPie)               \
+    X(GdipFillPieI)              \
+    X(GdipFillPolygon)           \
+    X(GdipFillPolygonI)          \
     X(GdipFillRectangle)         \
     X(GdipFillRectangleI)        \
     X(GdipFillRectangles)        \

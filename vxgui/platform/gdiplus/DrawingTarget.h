@@ -20,6 +20,9 @@ public:
     /// Why the pixels can't be drawn on now, or Ok.
     virtual GpStatus Ready() const { return Ok; }
 
+    /// Where the top row of the pixels stands, to tell whether an image is the target itself.
+    virtual const void* Memory() const = 0;
+
     /// A premultiplied 32-bit surface over the whole target, which shows its pixels within `area`;
     /// what is drawn there reaches the target at `End`. Null when memory is out.
     virtual cairo_surface_t* Begin(const GpRect& area) = 0;

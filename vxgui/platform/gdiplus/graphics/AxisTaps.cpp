@@ -90,8 +90,7 @@ AxisTaps MakeTaps(const ImageAxis& axis, InterpolationMode mode, bool middle, IN
     taps.count = std::max(0, end - begin);
     taps.first.reserve(static_cast<size_t>(taps.count));
     const Sampling sampling = SamplingOf(axis, mode, middle);
-    taps.copies = sampling.step == 1 && sampling.start == std::nearbyint(sampling.start);
-    if (taps.copies || mode == InterpolationModeNearestNeighbor) {
+    if (axis.Copies() || mode == InterpolationModeNearestNeighbor) {
         AddNearest(sampling, taps);
     } else {
         const double stretch = Prefilters(mode) ? std::max(1.0, std::abs(sampling.step)) : 1;

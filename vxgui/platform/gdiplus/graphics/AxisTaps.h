@@ -17,7 +17,6 @@ struct AxisTaps {
     INT taps = 1;              ///< source pixels of each
     std::vector<INT> first;    ///< the first of them, for each target pixel; neighbours follow
     std::vector<INT> weights;  ///< `taps` for each target pixel
-    bool copies = false;       ///< each target pixel is one source pixel, in order
 
     INT First(INT i) const { return first[static_cast<size_t>(i)]; }
     const INT* Weights(INT i) const { return &weights[static_cast<size_t>(i) * taps]; }

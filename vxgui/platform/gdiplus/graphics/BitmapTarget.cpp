@@ -1,15 +1,14 @@
 #include "vxgui/platform/gdiplus/graphics/BitmapTarget.h"
 
+#include "vxgui/platform/gdiplus/graphics/BitmapWords.h"
+
 namespace vxgui::gdiplus {
 
-// Only aligned words of premultiplied pixels can be drawn on where they stand. Memory and its
-// form may change between two drawings.
+// Memory and its form may change between two drawings.
 cairo_surface_t* BitmapTarget::Cover() {
-    constexpr uintptr_t kWord = 4;
-    if (bitmap_->Format() != PixelFormat32bppPARGB) return nullptr;
-    if (reinterpret_cast<uintptr_t>(bitmap_->Row(0)) % kWord != 0) return nullptr;
+    if (!HasDrawableWords(*bitmap_)) return nullptr;
     if (!surface_ || covered_ != bitmap_->Row(0)) {
-        surface_ = SurfaceOver(bitmap_->Row(0), Width(), Height(), bitmap_->Stride());
+        surface_ = SurfaceOver(*bitmap_);
         covered_ = bitmap_->Row(0);
     }
     if (surface_) cairo_surface_mark_dirty(surface_.get());

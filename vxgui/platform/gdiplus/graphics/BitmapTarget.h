@@ -17,6 +17,7 @@ public:
     REAL DpiX() const override { return bitmap_->dpiX; }
     REAL DpiY() const override { return bitmap_->dpiY; }
     GpStatus Ready() const override { return bitmap_->IsLocked() ? ObjectBusy : Ok; }
+    const void* Memory() const override { return bitmap_->Row(0); }
     cairo_surface_t* Begin(const GpRect& area) override;
     void End(const GpRect& area) override;
     void Store(const GpRect& area, ARGB color) override;

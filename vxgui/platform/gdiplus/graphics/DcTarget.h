@@ -17,6 +17,7 @@ public:
     REAL DpiX() const override;
     REAL DpiY() const override { return DpiX(); }
     const gdi::PixelRegion* Clip() const override;
+    const void* Memory() const override { return context_->Target().top; }
     cairo_surface_t* Begin(const GpRect& area) override;
     void End(const GpRect& area) override;
     void Store(const GpRect& area, ARGB color) override;

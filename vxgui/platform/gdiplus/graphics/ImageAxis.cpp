@@ -14,6 +14,10 @@ constexpr double kNear = 1e-4;
 
 }  // namespace
 
+bool ImageAxis::Copies() const {
+    return Step() == 1 && source0 - target0 == std::nearbyint(source0 - target0);
+}
+
 void ImageAxis::PutSourceInOrder() {
     if (source1 >= source0) return;
     std::swap(source0, source1);

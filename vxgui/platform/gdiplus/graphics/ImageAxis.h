@@ -16,6 +16,8 @@ struct ImageAxis {
 
     /// Source pixels for one of the target; below 0 when it mirrors.
     double Step() const { return (source1 - source0) / (target1 - target0); }
+    /// Each pixel of the target shows one whole pixel of the source, in order.
+    bool Copies() const;
     bool IsEmpty() const { return !(source1 > source0) || target0 == target1; }
     /// Leaves out what lies beyond the image.
     void CutToImage();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
+#include "vxgui/platform/gdiplus/graphics/BitmapWords.h"
 #include "vxgui/platform/gdiplus/graphics/Blit.h"
 #include "vxgui/platform/gdiplus/graphics/Clips.h"
 #include "vxgui/platform/gdiplus/graphics/ImageLayout.h"
@@ -19,6 +20,17 @@ GpRectF Around(const Axes& axes) {
             static_cast<REAL>(high(axes.y) - low(axes.y))};
 }
 
+// True when the image's own pixels can be drawn as they stand.
+bool IsPlainCopy(const Graphics& graphics, const ImagePart& part, const ImageSource& source,
+                 const Axes& axes) {
+    return axes.x.Copies() && axes.y.Copies() && !source.IsAdjusted() && !source.Wrap() &&
+           HasDrawableWords(part.bitmap) && part.bitmap.Row(0) != graphics.Target().Memory();
+}
+
+GpPoint OriginOf(const Axes& axes) {
+    return {DeviceInt(axes.x.target0 - axes.x.source0), DeviceInt(axes.y.target0 - axes.y.source0)};
+}
+
 GpStatus DrawUpright(Graphics& graphics, const ImagePart& part, const GpPointF device[3]) {
     const ImageSource source(part.bitmap, part.attributes);
     const Axes axes = AxesOf(part.source, source, device);
@@ -26,6 +38,10 @@ GpStatus DrawUpright(Graphics& graphics, const ImagePart& part, const GpPointF d
     const double offset = graphics.ShapeOffset();
     const GpRect area = graphics.Drawable(SampledBy(Around(axes), offset));
     if (IsEmpty(area)) return Ok;
+    if (IsPlainCopy(graphics, part, source, axes)) {
+        const Surface words = SurfaceOver(part.bitmap);
+        return words ? Blit(graphics, words.get(), area, OriginOf(axes)) : OutOfMemory;
+    }
     Canvas canvas = Resampled(source, axes, graphics.state.interpolationMode, offset == 0, area);
     if (part.abort.Aborts()) return Aborted;
     const Surface surface = canvas.Cover();
