@@ -44,6 +44,9 @@ public:
     /// The same in device pixels: user space is the device, and the world does not count. Nothing
     /// is drawn outside `bounds`.
     GpStatus PaintDevice(const GpRect& bounds, const Draw& draw);
+    /// With any user space, for what paints no pixel outside of `area` by itself; `area` must be
+    /// `Drawable`. It is spared a clip.
+    GpStatus PaintExactly(const GpRect& area, const Affine& user, const Draw& draw);
     /// Makes a brush the source of a context whose user space is the world. `device` is the box of
     /// pixels that will be painted.
     void SetSource(cairo_t* cairo, const Brush& brush, const GpRect& device) const;
@@ -82,13 +85,19 @@ private:
         GraphicsState state;
     };
 
-    void ClipTo(cairo_t* cairo, const GpRect& area) const;
-    void Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) const;
+    struct ContextRelease {
+        void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+    };
+
+    void ClipToPixels(cairo_t* cairo, const GpRect& area) const;
+    void Prepare(cairo_t* cairo, const Affine& user) const;
     GpStatus PaintArea(const GpRect& device, const Affine& user, const Draw& draw);
+    cairo_t* ContextOn(cairo_surface_t* surface);
 
     std::unique_ptr<DrawingTarget> target_;
     std::vector<Saved> saved_;
     UINT lastId_ = 0;
+    std::unique_ptr<cairo_t, ContextRelease> context_;  // kept while its surface stays
 };
 
 }  // namespace vxgui::gdiplus

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <span>
 
 #include "vxgui/platform/gdiplus_types.h"
 
@@ -16,6 +17,9 @@ constexpr ARGB Premultiplied(ARGB pixel) {
     }
     return result;
 }
+
+/// The same for all pixels of a row, in place.
+void PremultiplyRow(std::span<ARGB> pixels);
 
 /// The straight pixel nearest to a premultiplied one; a clear one loses its colours.
 constexpr ARGB Straight(ARGB pixel) {

@@ -69,7 +69,7 @@ void Bitmap::ReadPremultiplied(INT x, INT y, std::span<ARGB> to) const {
         return;
     }
     ReadStraight(x, y, to);
-    for (ARGB& pixel : to) pixel = Premultiplied(pixel);
+    PremultiplyRow(to);
 }
 
 void Bitmap::WriteStraight(INT x, INT y, std::span<const ARGB> from) {

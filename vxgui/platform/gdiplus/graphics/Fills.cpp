@@ -4,6 +4,7 @@
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
 #include "vxgui/platform/gdiplus/graphics/Clips.h"
+#include "vxgui/platform/gdiplus/graphics/Shapes.h"
 
 namespace vxgui::gdiplus {
 namespace {
@@ -29,6 +30,16 @@ std::optional<GpRect> WholePixels(const Graphics& graphics, const GpRectF& rect)
     return whole ? std::optional(SampledBy(*box, 0)) : std::nullopt;
 }
 
+GpStatus FillPixels(Graphics& graphics, const Brush& brush, const GpRect& pixels) {
+    const GpRect drawn = graphics.Drawable(pixels);
+    return graphics.PaintExactly(drawn, graphics.WorldToDevice(), [&](cairo_t* cairo) {
+        graphics.SetSource(cairo, brush, drawn);
+        cairo_identity_matrix(cairo);
+        cairo_rectangle(cairo, drawn.X, drawn.Y, drawn.Width, drawn.Height);
+        cairo_fill(cairo);
+    });
+}
+
 }  // namespace
 
 void ClearTo(Graphics& graphics, ARGB color) {
@@ -42,19 +53,9 @@ void ClearTo(Graphics& graphics, ARGB color) {
 
 GpStatus FillRectangle(Graphics& graphics, const Brush& brush, const GpRectF& rect) {
     if (!(rect.Width > 0 && rect.Height > 0)) return Ok;
-    const std::optional<GpRect> pixels = WholePixels(graphics, rect);
-    const GpRect device = graphics.Drawable(pixels ? *pixels : graphics.DeviceBox(rect));
-    return graphics.Paint(rect, [&](cairo_t* cairo) {
-        graphics.SetSource(cairo, brush, device);
-        if (pixels) {
-            cairo_identity_matrix(cairo);
-            cairo_rectangle(cairo, device.X, device.Y, device.Width, device.Height);
-        } else {
-            graphics.MoveToSamples(cairo);
-            cairo_rectangle(cairo, rect.X, rect.Y, rect.Width, rect.Height);
-        }
-        cairo_fill(cairo);
-    });
+    if (const auto pixels = WholePixels(graphics, rect))
+        return FillPixels(graphics, brush, *pixels);
+    return FillShape(graphics, brush, Outlines({rect}), FillModeAlternate);
 }
 
 }  // namespace vxgui::gdiplus

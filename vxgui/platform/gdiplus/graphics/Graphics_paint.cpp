@@ -5,10 +5,20 @@
 namespace vxgui::gdiplus {
 namespace {
 
-struct ContextRelease {
-    void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+// Gives a context back as it was.
+class Borrowed {
+public:
+    explicit Borrowed(cairo_t* cairo) : cairo_(cairo) { cairo_save(cairo); }
+    ~Borrowed() {
+        cairo_new_path(cairo_);
+        cairo_restore(cairo_);
+    }
+    Borrowed(const Borrowed&) = delete;
+    Borrowed& operator=(const Borrowed&) = delete;
+
+private:
+    cairo_t* const cairo_;
 };
-using Context = std::unique_ptr<cairo_t, ContextRelease>;
 
 // Keeps a target open.
 class Opened {
@@ -34,7 +44,7 @@ void ClipToBox(cairo_t* cairo, const GpRect& box) {
     cairo_clip(cairo);
 }
 
-void ClipToPixels(cairo_t* cairo, const gdi::PixelRegion* clip, const GpRect& area) {
+void ClipToRegion(cairo_t* cairo, const gdi::PixelRegion* clip, const GpRect& area) {
     if (!clip || clip->Kind() == gdi::SIMPLEREGION) return;  // the area lies inside
     for (const pixman_box32_t& box : clip->BoxesInRows(area.Y, area.Y + area.Height)) {
         cairo_rectangle(cairo, box.x1, box.y1, box.x2 - box.x1, box.y2 - box.y1);
@@ -42,17 +52,21 @@ void ClipToPixels(cairo_t* cairo, const gdi::PixelRegion* clip, const GpRect& ar
     cairo_clip(cairo);
 }
 
-}  // namespace
-
-void Graphics::ClipTo(cairo_t* cairo, const GpRect& area) const {
-    ClipToBox(cairo, area);
-    ClipToPixels(cairo, target_->Clip(), area);
-    ClipToPixels(cairo, state.clip.Pixels(), area);
-    ClipToPixels(cairo, state.outerClip.Pixels(), area);
+GpStatus StatusOf(cairo_t* cairo) {
+    const cairo_status_t status = cairo_status(cairo);
+    if (status == CAIRO_STATUS_SUCCESS) return Ok;
+    return status == CAIRO_STATUS_NO_MEMORY ? OutOfMemory : GenericError;
 }
 
-void Graphics::Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) const {
-    ClipTo(cairo, area);
+}  // namespace
+
+void Graphics::ClipToPixels(cairo_t* cairo, const GpRect& area) const {
+    ClipToRegion(cairo, target_->Clip(), area);
+    ClipToRegion(cairo, state.clip.Pixels(), area);
+    ClipToRegion(cairo, state.outerClip.Pixels(), area);
+}
+
+void Graphics::Prepare(cairo_t* cairo, const Affine& user) const {
     const bool copy = state.compositingMode == CompositingModeSourceCopy;
     cairo_set_operator(cairo, copy ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER);
     cairo_set_antialias(cairo, Antialiases() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
@@ -60,19 +74,36 @@ void Graphics::Prepare(cairo_t* cairo, const GpRect& area, const Affine& user) c
     cairo_set_matrix(cairo, &matrix);
 }
 
-GpStatus Graphics::PaintArea(const GpRect& device, const Affine& user, const Draw& draw) {
-    const GpRect area = Drawable(device);
+// A context that has failed once does nothing more.
+cairo_t* Graphics::ContextOn(cairo_surface_t* surface) {
+    const bool kept = context_ && cairo_get_target(context_.get()) == surface &&
+                      cairo_status(context_.get()) == CAIRO_STATUS_SUCCESS;
+    if (!kept) context_.reset(cairo_create(surface));
+    return context_.get();
+}
+
+GpStatus Graphics::PaintExactly(const GpRect& area, const Affine& user, const Draw& draw) {
     // A world that has no area can't show anything.
     if (IsEmpty(area) || !(std::abs(user.Determinant()) > 0)) return Ok;
     const Opened opened(*target_, area);
     if (!opened.Surface()) return OutOfMemory;
-    const Context cairo(cairo_create(opened.Surface()));
-    Prepare(cairo.get(), area, user);
-    draw(cairo.get());
-    const cairo_status_t status = cairo_status(cairo.get());
-    return status == CAIRO_STATUS_SUCCESS     ? Ok
-           : status == CAIRO_STATUS_NO_MEMORY ? OutOfMemory
-                                              : GenericError;
+    cairo_t* const cairo = ContextOn(opened.Surface());
+    const Borrowed borrowed(cairo);
+    ClipToPixels(cairo, area);
+    Prepare(cairo, user);
+    draw(cairo);
+    return StatusOf(cairo);
+}
+
+GpStatus Graphics::PaintArea(const GpRect& device, const Affine& user, const Draw& draw) {
+    const GpRect area = Drawable(device);
+    return PaintExactly(area, user, [&](cairo_t* cairo) {
+        const cairo_matrix_t matrix = CairoMatrix(user);
+        cairo_identity_matrix(cairo);
+        ClipToBox(cairo, area);
+        cairo_set_matrix(cairo, &matrix);
+        draw(cairo);
+    });
 }
 
 GpStatus Graphics::Paint(const GpRectF& bounds, const Draw& draw) {

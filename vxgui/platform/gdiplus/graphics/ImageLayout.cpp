@@ -1,5 +1,7 @@
 #include "vxgui/platform/gdiplus/graphics/ImageLayout.h"
 
+#include <algorithm>
+
 #include "vxgui/platform/gdiplus/graphics/Resampler.h"
 
 namespace vxgui::gdiplus {
@@ -16,19 +18,24 @@ Axes AxesOf(const GpRectF& part, const ImageSource& source, const GpPointF corne
     return axes;
 }
 
-Canvas Resampled(const ImageSource& source, const Axes& axes, InterpolationMode mode, bool middle,
-                 const GpRect& device) {
+GpStatus InBands(const ImageSource& source, const Axes& axes, const Sampled& how,
+                 const GpRect& device, INT rows, const TakeBand& take) {
     const EdgeRule xEdge(axes.x, source.Wrap(), false), yEdge(axes.y, source.Wrap(), true);
-    Resampler resampler(source, MakeTaps(axes.x, mode, middle, device.X, device.X + device.Width),
-                        xEdge, MakeTaps(axes.y, mode, middle, device.Y, device.Y + device.Height),
-                        yEdge);
-    Canvas canvas{device.Width, device.Height, {}};
+    Resampler resampler(
+        source, MakeTaps(axes.x, how.mode, how.middle, device.X, device.X + device.Width), xEdge,
+        MakeTaps(axes.y, how.mode, how.middle, device.Y, device.Y + device.Height), yEdge);
     const auto width = static_cast<size_t>(device.Width);
-    canvas.pixels.resize(width * static_cast<size_t>(device.Height));
-    for (INT y = 0; y < device.Height; ++y) {
-        resampler.Row(y, std::span(canvas.pixels).subspan(static_cast<size_t>(y) * width, width));
+    Canvas band{device.Width, 0, std::vector<ARGB>(width * static_cast<size_t>(rows))};
+    GpStatus status = Ok;
+    for (INT y = 0; y < device.Height && status == Ok; y += band.height) {
+        band.height = std::min(rows, device.Height - y);
+        for (INT i = 0; i < band.height; ++i) {
+            resampler.Row(y + i,
+                          std::span(band.pixels).subspan(static_cast<size_t>(i) * width, width));
+        }
+        status = take({device.X, device.Y + y, device.Width, band.height}, band);
     }
-    return canvas;
+    return status;
 }
 
 }  // namespace vxgui::gdiplus

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "vxgui/platform/gdiplus/graphics/ImageAxis.h"
 #include "vxgui/platform/gdiplus/graphics/ImageSource.h"
 #include "vxgui/platform/gdiplus/graphics/Surface.h"
@@ -24,8 +26,17 @@ struct Axes {
 /// are; what shows of it, and no source runs backwards.
 Axes AxesOf(const GpRectF& part, const ImageSource& source, const GpPointF corners[3]);
 
-/// The pixels `device` of what the axes lay out.
-Canvas Resampled(const ImageSource& source, const Axes& axes, InterpolationMode mode, bool middle,
-                 const GpRect& device);
+/// How pixels are made: sampled at their middles, or at their upper left corners.
+struct Sampled {
+    InterpolationMode mode;
+    bool middle;
+};
+
+/// Takes the pixels of `place`, which may be used until it returns.
+using TakeBand = std::function<GpStatus(const GpRect& place, Canvas& pixels)>;
+/// Hands out the pixels `device` of what the axes lay out, from the top, so many rows at a time,
+/// as long as they are taken with `Ok`.
+GpStatus InBands(const ImageSource& source, const Axes& axes, const Sampled& how,
+                 const GpRect& device, INT rows, const TakeBand& take);
 
 }  // namespace vxgui::gdiplus

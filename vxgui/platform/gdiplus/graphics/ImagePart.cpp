@@ -12,6 +12,9 @@
 namespace vxgui::gdiplus {
 namespace {
 
+// As many as stay in a near cache.
+constexpr INT kBandPixels = 1 << 14;
+
 GpRectF Around(const Axes& axes) {
     const auto low = [](const ImageAxis& a) { return std::min(a.target0, a.target1); };
     const auto high = [](const ImageAxis& a) { return std::max(a.target0, a.target1); };
@@ -42,11 +45,16 @@ GpStatus DrawUpright(Graphics& graphics, const ImagePart& part, const GpPointF d
         const Surface words = SurfaceOver(part.bitmap);
         return words ? Blit(graphics, words.get(), area, OriginOf(axes)) : OutOfMemory;
     }
-    Canvas canvas = Resampled(source, axes, graphics.state.interpolationMode, offset == 0, area);
-    if (part.abort.Aborts()) return Aborted;
-    const Surface surface = canvas.Cover();
-    if (!surface) return OutOfMemory;
-    return Blit(graphics, surface.get(), area, {area.X, area.Y});
+    // An image that is drawn on itself is read whole before it changes.
+    const bool isTarget = part.bitmap.Row(0) == graphics.Target().Memory();
+    const INT rows = isTarget ? area.Height : std::max(1, kBandPixels / area.Width);
+    return InBands(source, axes, {graphics.state.interpolationMode, offset == 0}, area, rows,
+                   [&](const GpRect& place, Canvas& pixels) -> GpStatus {
+                       if (part.abort.Aborts()) return Aborted;
+                       const Surface surface = pixels.Cover();
+                       if (!surface) return OutOfMemory;
+                       return Blit(graphics, surface.get(), place, {place.X, place.Y});
+                   });
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 namespace vxgui::gdiplus {
 
-/// Asked before the work and before the result is drawn; true ends the drawing.
+/// Asked before the work and before each band of the result is drawn; true ends the drawing.
 struct AbortCheck {
     BOOL (*ask)(void*) = nullptr;
     void* data = nullptr;

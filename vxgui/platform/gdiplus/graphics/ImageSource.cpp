@@ -1,7 +1,5 @@
 #include "vxgui/platform/gdiplus/graphics/ImageSource.h"
 
-#include <algorithm>
-
 #include "vxgui/platform/gdiplus/Premultiply.h"
 
 namespace vxgui::gdiplus {
@@ -28,7 +26,7 @@ void ImageSource::Read(INT x, INT y, std::span<ARGB> pixels) const {
     }
     bitmap_.ReadStraight(x, y, pixels);
     Adjust(*adjustment_, pixels);
-    std::transform(pixels.begin(), pixels.end(), pixels.begin(), Premultiplied);
+    PremultiplyRow(pixels);
 }
 
 }  // namespace vxgui::gdiplus

@@ -1,6 +1,8 @@
 #include "vxgui/platform/gdiplus/graphics/Resampler.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 
 #include "vxgui/pixels/Multiversion.h"
 
@@ -15,16 +17,26 @@ VXGUI_MULTIVERSION void AddScaled(const int16_t* from, INT weight, size_t count,
     for (size_t i = 0; i < count; ++i) sums[i] += from[i] * weight;
 }
 
-// Colours beyond the alpha, which filters that overshoot make, would not be premultiplied ones.
-ARGB Packed(const INT* sums) {
-    const auto channel = [&](int i, INT most) {
-        return static_cast<ARGB>(
-            std::clamp((sums[i] + (1 << (kMixedShift - 1))) >> kMixedShift, 0, most));
-    };
-    const ARGB alpha = channel(3, 255);
-    const auto most = static_cast<INT>(alpha);
-    return alpha << 24 | channel(2, most) << 16 | channel(1, most) << 8 | channel(0, most);
+VXGUI_MULTIVERSION void PackChannels(const INT* sums, size_t count, uint8_t* to) {
+    for (size_t i = 0; i < count; ++i) {
+        const INT value = (sums[i] + (1 << (kMixedShift - 1))) >> kMixedShift;
+        to[i] = static_cast<uint8_t>(std::clamp(value, 0, 255));
+    }
 }
+
+// Colours beyond the alpha, which filters that overshoot make, would not be premultiplied ones.
+VXGUI_MULTIVERSION void BoundByAlpha(uint8_t* pixels, size_t count) {
+    for (size_t i = 0; i < count; ++i, pixels += 4) {
+        for (int c = 0; c < 3; ++c) pixels[c] = std::min(pixels[c], pixels[3]);
+    }
+}
+
+// The channels of a pixel side by side, so that one operation does for all four.
+using Lanes = INT __attribute__((vector_size(16)));
+using Bytes = uint8_t __attribute__((vector_size(4)));
+using Shorts = int16_t __attribute__((vector_size(8)));
+
+Lanes LanesOf(ARGB pixel) { return __builtin_convertvector(std::bit_cast<Bytes>(pixel), Lanes); }
 
 // The range of the image's columns that taps need, as [first, end).
 std::pair<INT, INT> Needed(const std::vector<INT>& columns) {
@@ -59,6 +71,7 @@ Resampler::Resampler(const ImageSource& source, AxisTaps x, const EdgeRule& xEdg
     left_ = first;
     const INT width = end - first;
     for (INT& column : columns_) column = column < 0 ? width : column - first;
+    copies_ = width == x_.count && x_.taps == 1 && std::is_sorted(columns_.begin(), columns_.end());
     loaded_.assign(static_cast<size_t>(width) + 1, source_.Outside());
     kept_.resize(static_cast<size_t>(y_.taps));
 }
@@ -76,17 +89,15 @@ void Resampler::Load(INT index) {
 void Resampler::Filter(FilteredRow& to) const {
     to.resize(static_cast<size_t>(x_.count) * 4);
     const auto taps = static_cast<size_t>(x_.taps);
-    for (size_t i = 0; i < static_cast<size_t>(x_.count); ++i) {
-        INT sums[4] = {};
-        for (size_t k = i * taps; k < (i + 1) * taps; ++k) {
-            const ARGB pixel = loaded_[static_cast<size_t>(columns_[k])];
-            for (int c = 0; c < 4; ++c) {
-                sums[c] += static_cast<INT>(pixel >> 8 * c & 255) * x_.weights[k];
-            }
+    const INT *column = columns_.data(), *weight = x_.weights.data();
+    for (size_t i = 0; i < to.size(); i += 4) {
+        Lanes sums = {};
+        for (size_t k = 0; k < taps; ++k) {
+            sums += LanesOf(loaded_[static_cast<size_t>(*column++)]) * *weight++;
         }
-        for (size_t c = 0; c < 4; ++c) {
-            to[i * 4 + c] = static_cast<int16_t>((sums[c] + (1 << (kKeptShift - 1))) >> kKeptShift);
-        }
+        const Lanes kept = (sums + (1 << (kKeptShift - 1))) >> kKeptShift;
+        const Shorts packed = __builtin_convertvector(kept, Shorts);
+        std::memcpy(&to[i], &packed, sizeof packed);
     }
 }
 
@@ -103,6 +114,8 @@ const Resampler::FilteredRow& Resampler::Filtered(INT index) {
 }
 
 void Resampler::Pick(INT index, std::span<ARGB> to) {
+    const INT row = yEdge_.Resolve(index);
+    if (copies_ && row >= 0) return source_.Read(left_, row, to);
     Load(index);
     for (size_t i = 0; i < to.size(); ++i) to[i] = loaded_[static_cast<size_t>(columns_[i])];
 }
@@ -114,7 +127,9 @@ void Resampler::Mix(INT i, std::span<ARGB> to) {
         if (weights[k] == 0) continue;
         AddScaled(Filtered(y_.First(i) + k).data(), weights[k], sums_.size(), sums_.data());
     }
-    for (size_t x = 0; x < to.size(); ++x) to[x] = Packed(&sums_[x * 4]);
+    auto* const bytes = reinterpret_cast<uint8_t*>(to.data());
+    PackChannels(sums_.data(), sums_.size(), bytes);
+    BoundByAlpha(bytes, to.size());
 }
 
 void Resampler::Row(INT i, std::span<ARGB> to) {

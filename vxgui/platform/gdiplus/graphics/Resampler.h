@@ -38,6 +38,7 @@ private:
     const AxisTaps x_, y_;
     const EdgeRule& yEdge_;
     INT left_ = 0;              // the image's column that is loaded first
+    bool copies_ = false;       // the columns follow each other, one a pixel
     std::vector<INT> columns_;  // of `loaded_`, for each tap along x
     std::vector<ARGB> loaded_;  // a row of the image, and the pixel outside of it
     std::vector<KeptRow> kept_;

@@ -4,6 +4,7 @@
 
 #include "vxgui/platform/gdiplus/CairoMatrix.h"
 #include "vxgui/platform/gdiplus/DeviceBox.h"
+#include "vxgui/platform/gdiplus/Path.h"
 #include "vxgui/platform/gdiplus/graphics/AxisTaps.h"
 #include "vxgui/platform/gdiplus/graphics/ImageLayout.h"
 
@@ -71,6 +72,7 @@ Slanted SlantedOf(const ImagePart& part, const ImageSource& source, const GpPoin
 
 // From device pixels to those of the picture of the part.
 std::optional<Affine> ToPicture(const Slanted& slanted) {
+    if (slanted.axes.x.IsEmpty() || slanted.axes.y.IsEmpty()) return std::nullopt;
     const auto toDevice = RectToParallelogram(slanted.source, slanted.corners);
     const auto toSource = toDevice ? Inverse(*toDevice) : std::nullopt;
     if (!toSource) return std::nullopt;
@@ -90,33 +92,45 @@ bool IsTooLarge(const Axes& axes) {
            axes.x.target1 * axes.y.target1 > kMostPixels;
 }
 
+// The pixels that the parallelogram touches.
+GpRect PlaceOf(const Slanted& slanted) {
+    const GpPointF* c = slanted.corners;
+    const GpPointF last{c[1].X + c[2].X - c[0].X, c[1].Y + c[2].Y - c[0].Y};
+    return PixelsAround(BoundsOfPoints({c[0], c[1], c[2], last}));
+}
+
+// The part alone, upright.
+GpStatus DrawPicture(Graphics& graphics, const Slanted& slanted, const Affine& toPicture,
+                     Canvas& picture) {
+    const Surface surface = picture.Cover();
+    if (!surface) return OutOfMemory;
+    return graphics.PaintDevice(PlaceOf(slanted), [&](cairo_t* cairo) {
+        cairo_set_source_surface(cairo, surface.get(), 0, 0);
+        const cairo_matrix_t matrix = CairoMatrix(toPicture);
+        cairo_pattern_set_matrix(cairo_get_source(cairo), &matrix);
+        cairo_pattern_set_extend(cairo_get_source(cairo), CAIRO_EXTEND_PAD);
+        cairo_pattern_set_filter(cairo_get_source(cairo),
+                                 FilterOf(graphics.state.interpolationMode));
+        FillParallelogram(cairo, slanted.corners);
+    });
+}
+
 }  // namespace
 
 GpStatus DrawSlanted(Graphics& graphics, const ImagePart& part, const GpPointF device[3]) {
     const InterpolationMode mode = graphics.state.interpolationMode;
     const ImageSource source(part.bitmap, part.attributes);
     const Slanted slanted = SlantedOf(part, source, device, mode);
-    if (slanted.source.Width <= 0 || slanted.source.Height <= 0) return Ok;
     const std::optional<Affine> toPicture = ToPicture(slanted);
-    if (!toPicture) return Ok;
+    if (!toPicture || IsEmpty(graphics.Drawable(PlaceOf(slanted)))) return Ok;
     if (IsTooLarge(slanted.axes)) return OutOfMemory;
-    const GpRect whole =
-        PixelsAround(BoxOf(slanted.source, *RectToParallelogram(slanted.source, slanted.corners)));
-    if (IsEmpty(graphics.Drawable(whole))) return Ok;
-    Canvas canvas = Resampled(
-        source, slanted.axes, mode, true,
-        {0, 0, static_cast<INT>(slanted.axes.x.target1), static_cast<INT>(slanted.axes.y.target1)});
-    if (part.abort.Aborts()) return Aborted;
-    const Surface surface = canvas.Cover();
-    if (!surface) return OutOfMemory;
-    return graphics.PaintDevice(whole, [&](cairo_t* cairo) {
-        cairo_set_source_surface(cairo, surface.get(), 0, 0);
-        const cairo_matrix_t matrix = CairoMatrix(*toPicture);
-        cairo_pattern_set_matrix(cairo_get_source(cairo), &matrix);
-        cairo_pattern_set_extend(cairo_get_source(cairo), CAIRO_EXTEND_PAD);
-        cairo_pattern_set_filter(cairo_get_source(cairo), FilterOf(mode));
-        FillParallelogram(cairo, slanted.corners);
-    });
+    const GpRect all{0, 0, static_cast<INT>(slanted.axes.x.target1),
+                     static_cast<INT>(slanted.axes.y.target1)};
+    return InBands(source, slanted.axes, {mode, true}, all, all.Height,
+                   [&](const GpRect&, Canvas& picture) -> GpStatus {
+                       if (part.abort.Aborts()) return Aborted;
+                       return DrawPicture(graphics, slanted, *toPicture, picture);
+                   });
 }
 
 }  // namespace vxgui::gdiplus
