@@ -6,6 +6,7 @@
 #include "vxgui/frame/Version.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 #include "vxgui/gdip/GpBrush.h"
+#include "vxgui/gdip/GpEffect.h"
 #include "vxgui/gdip/GpFont.h"
 #include "vxgui/gdip/GpFontCollection.h"
 #include "vxgui/gdip/GpGraphics.h"
