@@ -257,6 +257,14 @@ TEST_F(GpGraphicsTest, DrawsABitmapWholeAtItsOwnSizeByDefault) {
     EXPECT_EQ(graphics_->Status, InvalidParameter);
 }
 
+TEST_F(GpGraphicsTest, DrawsWithEffectsAndKeepsNoStatusOfIt) {
+    gdiplus::GpRectF part{1, 1, 2, 2};
+    EXPECT_EQ(graphics_->DrawImageFX(AsImage(bitmap_), &part, nullptr, nullptr, nullptr), Ok);
+    EXPECT_EQ(RedBox(), (Edges{1, 1, 3, 3}));
+    EXPECT_EQ(graphics_->DrawImageFX(nullptr, &part, nullptr, nullptr, nullptr), InvalidParameter);
+    EXPECT_EQ(graphics_->Status, Ok);
+}
+
 TEST_F(GpGraphicsTest, PassesTheCallbackOn) {
     const auto abort = [](void* data) -> int32_t { return data != nullptr; };
     EXPECT_FALSE(graphics_->DrawBitmap(bitmap_, 0, 0, -1, -1, 0, 0, -1, -1, gdiplus::UnitPixel,

@@ -16,4 +16,12 @@ bool GpGraphics::DrawBitmap(gdiplus::GpBitmap* hGpImageBitmap, int32_t dstX, int
                                               CallbackData));
 }
 
+gdiplus::Status GpGraphics::DrawImageFX(gdiplus::GpImage* hGpImage, gdiplus::GpRectF* lpRectF,
+                                        gdiplus::GpMatrix* hGpMatrix, gdiplus::CGpEffect* hGpEffect,
+                                        gdiplus::GpImageAttributes* hGpImageAttributes,
+                                        gdiplus::Unit srcUnit) {
+    return flat::GdipDrawImageFX(handle_, hGpImage, lpRectF, hGpMatrix, hGpEffect,
+                                 hGpImageAttributes, srcUnit);
+}
+
 }  // namespace vxgui

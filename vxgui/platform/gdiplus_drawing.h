@@ -133,6 +133,12 @@ VXPLATFORM_API GpStatus GdipDrawImageRectRectI(GpGraphics* graphics, GpImage* im
                                                const GpImageAttributes* imageAttributes,
                                                DrawImageAbort callback, void* callbackData);
 
+/// A part (null: the whole) after an effect, if there is one, and attributes, where the matrix
+/// (null: none) takes its rectangle. An effect that spreads the part shows around it.
+VXPLATFORM_API GpStatus GdipDrawImageFX(GpGraphics* graphics, GpImage* image, GpRectF* source,
+                                        GpMatrix* xForm, CGpEffect* effect,
+                                        GpImageAttributes* imageAttributes, Unit srcUnit);
+
 /// A copy of a bitmap's pixels that is quick to draw, on any graphics whose world only moves;
 /// else `WrongState`.
 VXPLATFORM_API GpStatus GdipCreateCachedBitmap(GpBitmap* bitmap, GpGraphics* graphics,
@@ -159,6 +165,7 @@ VXPLATFORM_API GpStatus GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitma
     X(GdipDrawEllipse)           \
     X(GdipDrawEllipseI)          \
     X(GdipDrawImage)             \
+    X(GdipDrawImageFX)           \
     X(GdipDrawImageI)            \
     X(GdipDrawImagePointRect)    \
     X(GdipDrawImagePointRectI)   \

@@ -1,35 +1,8 @@
-#include "vxgui/platform/gdiplus/Coordinates.h"
-#include "vxgui/platform/gdiplus/graphics/GraphicsCall.h"
-#include "vxgui/platform/gdiplus/graphics/ImagePart.h"
-#include "vxgui/platform/gdiplus/graphics/Units.h"
+#include "vxgui/platform/gdiplus/graphics/ImageCall.h"
 #include "vxgui/platform/gdiplus_drawing.h"
 
 namespace vxgui::gdiplus {
 namespace {
-
-/// Runs `draw(graphics, bitmap)`, which answers a status.
-template <class Draw>
-GpStatus WithImage(GpGraphics* graphics, GpImage* image, Draw draw) {
-    return DrawWith<Bitmap>(graphics, image, draw);
-}
-
-/// Runs `draw(attributes)` with those behind a handle, or with null for none.
-template <class Draw>
-GpStatus WithAttributes(const GpImageAttributes* handle, Draw draw) {
-    if (!handle) return draw(nullptr);
-    return FlatOn<ImageAttributes>(handle, [&](ImageAttributes& found) { return draw(&found); });
-}
-
-GpRectF WholeOf(const Bitmap& bitmap) {
-    return {0, 0, static_cast<REAL>(bitmap.Width()), static_cast<REAL>(bitmap.Height())};
-}
-
-bool IsSourceUnit(Unit unit) { return unit >= UnitDisplay && unit <= UnitMillimeter; }
-
-GpRectF InPixels(const GpRectF& rect, Unit unit, const Bitmap& bitmap) {
-    const REAL x = PixelsPer(unit, bitmap.dpiX), y = PixelsPer(unit, bitmap.dpiY);
-    return {rect.X * x, rect.Y * y, rect.Width * x, rect.Height * y};
-}
 
 // The size that so many pixels of a bitmap have on the page: that of the picture on paper.
 GpSizeF PageSize(const Graphics& graphics, const Bitmap& bitmap, REAL width, REAL height) {
@@ -37,13 +10,6 @@ GpSizeF PageSize(const Graphics& graphics, const Bitmap& bitmap, REAL width, REA
     const Unit unit = graphics.state.pageUnit;
     return {width * target.DpiX() / bitmap.dpiX / PixelsPer(unit, target.DpiX()),
             height * target.DpiY() / bitmap.dpiY / PixelsPer(unit, target.DpiY())};
-}
-
-struct Corners {
-    GpPointF points[3];
-};
-Corners CornersOf(const GpRectF& r) {
-    return {{{r.X, r.Y}, {r.X + r.Width, r.Y}, {r.X, r.Y + r.Height}}};
 }
 
 }  // namespace
@@ -118,7 +84,8 @@ GpStatus GdipDrawImagePointsRect(GpGraphics* graphics, GpImage* image, const GpP
     if (!points || count < 3 || !IsSourceUnit(srcUnit)) return InvalidParameter;
     if (count > 3) return NotImplemented;
     return WithImage(graphics, image, [&](Graphics& found, Bitmap& bitmap) {
-        return WithAttributes(imageAttributes, [&](const ImageAttributes* attributes) {
+        return WithOptional<ImageAttributes>(imageAttributes, [&](const ImageAttributes*
+                                                                      attributes) {
             const GpRectF part = InPixels({srcx, srcy, srcwidth, srcheight}, srcUnit, bitmap);
             return DrawPart(found, {bitmap, part, attributes, {callback, callbackData}}, points);
         });
