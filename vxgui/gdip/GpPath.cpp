@@ -1,0 +1,89 @@
+#include "vxgui/gdip/GpPath.h"
+
+namespace vxgui {
+
+gdiplus::GpPath* GpPath::Handle() {
+    if (!handle_) Create();
+    return handle_;
+}
+
+bool GpPath::Create(gdiplus::FillMode FillMode) {
+    gdiplus::GpPath* made = nullptr;
+    return Adopt(flat::GdipCreatePath(FillMode, &made), made);
+}
+
+template <class Point, class Call>
+bool GpPath::CreateFrom(const Point* points, const uint8_t* types, int32_t count,
+                        gdiplus::FillMode mode, const Call& call) {
+    const std::vector<Point> pointCopy = CopyOf(points, count);
+    const std::vector<uint8_t> typeCopy = CopyOf(types, count);
+    if (pointCopy.empty() || typeCopy.empty()) return false;
+    gdiplus::GpPath* made = nullptr;
+    return Adopt(call(pointCopy.data(), typeCopy.data(), count, mode, &made), made);
+}
+
+bool GpPath::CreatePoints(const gdiplus::GpPointF* Points, const uint8_t* Types, int32_t Count,
+                          gdiplus::FillMode FillMode) {
+    return CreateFrom(Points, Types, Count, FillMode, flat::GdipCreatePath2);
+}
+
+bool GpPath::CreatePointsI(const gdiplus::GpPoint* Points, const uint8_t* Types, int32_t Count,
+                           gdiplus::FillMode FillMode) {
+    return CreateFrom(Points, Types, Count, FillMode, flat::GdipCreatePath2I);
+}
+
+bool GpPath::Reset() { return Check(flat::GdipResetPath(Handle())); }
+
+int32_t GpPath::PointCount() {
+    int32_t count = 0;
+    return Check(flat::GdipGetPointCount(Handle(), &count)) ? count : 0;
+}
+
+bool GpPath::GetPointTypes(uint8_t* Types, int32_t Count) {
+    return Check(flat::GdipGetPathTypes(Handle(), Types, Count));
+}
+
+bool GpPath::GetPointPoints(gdiplus::GpPointF* Points, int32_t Count) {
+    return Check(flat::GdipGetPathPoints(Handle(), Points, Count));
+}
+
+bool GpPath::GetPointPointsI(gdiplus::GpPoint* Points, int32_t Count) {
+    return Check(flat::GdipGetPathPointsI(Handle(), Points, Count));
+}
+
+gdiplus::FillMode GpPath::FillMode() {
+    auto mode = gdiplus::FillModeAlternate;
+    Check(flat::GdipGetPathFillMode(Handle(), &mode));
+    return mode;
+}
+void GpPath::FillMode(gdiplus::FillMode value) {
+    Check(flat::GdipSetPathFillMode(Handle(), value));
+}
+
+gdiplus::GpPathData GpPath::PathData() {
+    const int32_t count = PointCount();
+    const auto room = static_cast<size_t>(count) + 1;  // an empty path needs arrays too
+    mPoints.resize(room);
+    mTypes.resize(room);
+    gdiplus::GpPathData data{count, mPoints.data(), mTypes.data()};
+    return Check(flat::GdipGetPathData(Handle(), &data)) ? data : gdiplus::GpPathData{};
+}
+
+bool GpPath::StartFigure() { return Check(flat::GdipStartPathFigure(Handle())); }
+
+bool GpPath::CloseFigure() { return Check(flat::GdipClosePathFigure(Handle())); }
+
+bool GpPath::CloseAllFigures() { return Check(flat::GdipClosePathFigures(Handle())); }
+
+bool GpPath::SetMarker() { return Check(flat::GdipSetPathMarker(Handle())); }
+
+bool GpPath::ClearMarkers() { return Check(flat::GdipClearPathMarkers(Handle())); }
+
+bool GpPath::Reverse() { return Check(flat::GdipReversePath(Handle())); }
+
+bool GpPath::GetLastPoint(gdiplus::GpPointF& LastPoint) {
+    LastPoint = {};
+    return Check(flat::GdipGetPathLastPoint(Handle(), &LastPoint));
+}
+
+}  // namespace vxgui
