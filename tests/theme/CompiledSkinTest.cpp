@@ -350,10 +350,9 @@ TEST(CompiledSkinDamage, TooManyRecordsAreRefused) {
 }
 
 TEST(CompiledSkin, IsRefusedWhenItIsTooLargeToBeRead) {
-    EXPECT_EQ(test::RaisedBy([] {
-                  compiled::WriteContainer({{SectionKind::Notes, ByteArray(size_t{97} << 20)}});
-              }),
-              6);
+    std::vector<Section> sections(2);
+    for (Section& section : sections) section.bytes.resize((size_t{48} << 20) + 1);
+    EXPECT_EQ(test::RaisedBy([&] { compiled::WriteContainer(sections); }), 6);
 }
 
 }  // namespace

@@ -85,8 +85,7 @@ TEST(LintKeys, AreThoseThatUisItemsAreReadBy) {
         New<ThemeItem>()->FromUis(file, String(kFolder), "Button", "");
     };
     EXPECT_EQ(
-        AskedBy(read,
-                {{{"Image", "button.tga"}, {"GlyphImage", "button.tga"}, {"FrameCount", "2"}}}),
+        AskedBy(read, {{{"Image", "arrow.bmp"}, {"GlyphImage", "arrow.bmp"}, {"FrameCount", "2"}}}),
         NamesOf(UisItemKeys()));
 }
 

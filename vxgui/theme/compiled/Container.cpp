@@ -31,6 +31,14 @@ uint32_t ChecksumOf(const ByteArray& file) {
 
 String Number(size_t value) { return String::FromInt(static_cast<int64_t>(value)); }
 
+void CheckTotal(const std::vector<Section>& sections) {
+    size_t total = 0;
+    for (const Section& section : sections) total += section.bytes.size();
+    if (total <= kMostBytes) return;
+    throw Error(ErrorNumber::Overflow, "CompiledSkin",
+                "too large: pictures and all, it may have " + Number(kMostBytes >> 20) + " MiB");
+}
+
 }  // namespace
 
 void RaiseDamaged(const String& why) { throw Error(ErrorNumber::InvalidCall, "CompiledSkin", why); }
@@ -40,19 +48,15 @@ bool IsContainer(const ByteArray& file) {
 }
 
 ByteArray WriteContainer(const std::vector<Section>& sections) {
+    CheckTotal(sections);
     ByteArray file(kHeaderSize + kEntrySize * sections.size());
-    size_t entry = kHeaderSize, total = 0;
+    size_t entry = kHeaderSize;
     for (const Section& section : sections) {
         const ByteArray stored = core7::Compress(section.bytes);
         Store(file, entry, static_cast<uint32_t>(section.kind));
         Store(file, entry + 4, stored.size());
         Store(file, entry + 8, section.bytes.size());
         entry += kEntrySize;
-        total += section.bytes.size();
-        if (total > kMostBytes)
-            throw Error(
-                ErrorNumber::Overflow, "CompiledSkin",
-                "too large: pictures and all, it may have " + Number(kMostBytes >> 20) + " MiB");
         file.insert(file.end(), stored.begin(), stored.end());
     }
     std::copy(std::begin(kMagic), std::end(kMagic), file.begin());
