@@ -135,6 +135,19 @@ TEST_F(GdiplusGraphics, DrawsOnPixelsOfTheCallerInEitherRowOrder) {
     }
 }
 
+TEST_F(GdiplusGraphics, FollowsABitmapThatIsTurned) {
+    GpBitmap* bitmap = MakeBitmap(Box(0, 0, 0, 0, 0), PixelFormat32bppPARGB);
+    GpGraphics* graphics = GraphicsOf(bitmap);
+    ASSERT_EQ(GdipGraphicsClear(graphics, kBlue), Ok);
+    ASSERT_EQ(GdipFillRectangleI(graphics, Solid(kRed), 0, 0, 3, 1), Ok);
+    ASSERT_EQ(GdipImageRotateFlip(AsImage(bitmap), Rotate90FlipNone), Ok);
+    ASSERT_EQ(GdipFillRectangleI(graphics, Solid(kGreen), 0, kWidth - 1, kHeight, 1), Ok);
+    test::TestPicture expected =
+        Box(0, kWidth - 1, kHeight, kWidth, kGreen, kBlue, kHeight, kWidth);
+    for (int y = 0; y < 3; ++y) expected.At(kHeight - 1, y) = kRed;
+    ExpectSame(PictureOf(bitmap), expected);
+}
+
 TEST_F(GdiplusGraphics, LeavesPixelsAloneThatDrawingDoesNotChange) {
     // Straight colours under a low alpha don't survive being multiplied and divided.
     GpBitmap* faint = MakeBitmap(Box(0, 0, 0, 0, 0, 0x03A55AC3));

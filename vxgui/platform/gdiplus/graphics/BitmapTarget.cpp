@@ -4,12 +4,13 @@
 
 namespace vxgui::gdiplus {
 
-// Memory and its form may change between two drawings.
+// Memory and its form may change between two drawings, even at the same place.
 cairo_surface_t* BitmapTarget::Cover() {
     if (!HasDrawableWords(*bitmap_)) return nullptr;
-    if (!surface_ || covered_ != bitmap_->Row(0)) {
+    const Covered words{bitmap_->Row(0), Width(), Height(), bitmap_->Stride()};
+    if (!surface_ || covered_ != words) {
         surface_ = SurfaceOver(*bitmap_);
-        covered_ = bitmap_->Row(0);
+        covered_ = words;
     }
     if (surface_) cairo_surface_mark_dirty(surface_.get());
     return surface_.get();

@@ -25,12 +25,18 @@ public:
     void TakeBack(gdi::HDC dc) override;
 
 private:
+    struct Covered {
+        const uint8_t* top = nullptr;
+        INT width = 0, height = 0, stride = 0;
+        bool operator==(const Covered&) const = default;
+    };
+
     cairo_surface_t* Cover();
 
     const Ref<Bitmap> bitmap_;
     ScratchArea scratch_;
     bool direct_ = false;
-    const uint8_t* covered_ = nullptr;
+    Covered covered_;
     Surface surface_;  // over `covered_`
     std::optional<BitmapDc> lent_;
 };

@@ -13,9 +13,10 @@ GpRectF ToWorld(const Graphics& graphics, const GpRectF& device) {
     return inverse ? BoxOf(device, *inverse) : device;
 }
 
-// What lies further out than the target is large can't come into view by any whole move of it.
+// What lies further out doesn't come into view, unless a clip is moved far.
 GpRect Surroundings(const DrawingTarget& target) {
-    return {-target.Width(), -target.Height(), 3 * target.Width(), 3 * target.Height()};
+    constexpr INT kMargin = 256;
+    return {-kMargin, -kMargin, target.Width() + 2 * kMargin, target.Height() + 2 * kMargin};
 }
 
 GpRectF InOrder(GpRectF r) {
@@ -27,7 +28,11 @@ GpRectF InOrder(GpRectF r) {
 }  // namespace
 
 GpRect SampledBy(const GpRectF& box, double offset) {
-    const auto first = [offset](double edge) { return DeviceInt(std::ceil(edge - 0.5 + offset)); };
+    // Edges come out of single precision: this little beyond a sample they mean to be on it.
+    constexpr double kNear = 1.0 / 256;
+    const auto first = [offset](double edge) {
+        return DeviceInt(std::ceil(edge - 0.5 + offset - kNear));
+    };
     const INT left = first(box.X), top = first(box.Y);
     return {left, top, first(static_cast<double>(box.X) + box.Width) - left,
             first(static_cast<double>(box.Y) + box.Height) - top};

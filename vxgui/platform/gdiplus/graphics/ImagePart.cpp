@@ -1,6 +1,7 @@
 #include "vxgui/platform/gdiplus/graphics/ImagePart.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
 #include "vxgui/platform/gdiplus/graphics/BitmapWords.h"
@@ -57,6 +58,9 @@ GpStatus DrawUpright(Graphics& graphics, const ImagePart& part, const GpPointF d
                    });
 }
 
+// Sides that lean by less don't show it.
+bool IsNear(REAL a, REAL b) { return std::abs(a - b) < 1.0f / 256; }
+
 }  // namespace
 
 GpStatus DrawPart(Graphics& graphics, const ImagePart& part, const GpPointF corners[3]) {
@@ -66,7 +70,7 @@ GpStatus DrawPart(Graphics& graphics, const ImagePart& part, const GpPointF corn
     const Affine world = graphics.WorldToDevice();
     const GpPointF device[3] = {world.Apply(corners[0]), world.Apply(corners[1]),
                                 world.Apply(corners[2])};
-    const bool upright = device[0].Y == device[1].Y && device[0].X == device[2].X;
+    const bool upright = IsNear(device[0].Y, device[1].Y) && IsNear(device[0].X, device[2].X);
     return upright ? DrawUpright(graphics, part, device) : DrawSlanted(graphics, part, device);
 }
 
