@@ -4,6 +4,8 @@
 
 #include "tests/support/Bitmaps.h"
 #include "tests/support/GdiplusSession.h"
+#include "vxgui/base/Error.h"
+#include "vxgui/gdip/GpMatrix.h"
 #include "vxgui/platform/gdi_dib.h"
 
 namespace vxgui {
@@ -182,6 +184,35 @@ TEST_F(GpGraphicsTest, PlacesWhatItFills) {
     EXPECT_TRUE(graphics_->RotateTransform(90));
     EXPECT_TRUE(graphics_->FillRectangle(brush_, 0, 0, 4, 2));
     EXPECT_EQ(RedBox(), (Edges{6, 1, 8, 5}));
+}
+
+TEST_F(GpGraphicsTest, SetsAndMultipliesItsWorld) {
+    const Ref<GpMatrix> matrix = New<GpMatrix>();
+    EXPECT_TRUE(matrix->Translate(2, 3));
+    EXPECT_TRUE(graphics_->SetTransform(matrix));
+    EXPECT_TRUE(graphics_->ScaleTransform(2, 2));
+    EXPECT_TRUE(graphics_->MultiplyTransform(matrix));
+    EXPECT_TRUE(graphics_->FillRectangleI(brush_, 0, 0, 1, 1));
+    EXPECT_EQ(RedBox(), (Edges{6, 9, 8, 10}));
+    EXPECT_TRUE(graphics_->SetTransform(matrix));
+    EXPECT_TRUE(graphics_->FillRectangleI(brush_, 0, 0, 1, 1));
+    EXPECT_EQ(RedBox(), (Edges{2, 3, 3, 4}));
+    EXPECT_THROW(graphics_->SetTransform(nullptr), Error);
+    EXPECT_EQ(graphics_->Status, Ok);
+}
+
+TEST_F(GpGraphicsTest, FailsToMultiplyByNothingWithoutAFlatCall) {
+    UnbindAllStubs();
+    EXPECT_FALSE(graphics_->MultiplyTransform(nullptr));
+    EXPECT_EQ(graphics_->Status, InvalidParameter);
+    EXPECT_FALSE(flat::GdipMultiplyWorldTransform.IsBound());
+}
+
+TEST_F(GpGraphicsTest, FailsToAnswerItsWorld) {
+    Ref<GpMatrix> matrix;
+    EXPECT_FALSE(graphics_->GetTransform(matrix));
+    EXPECT_EQ(matrix, nullptr);
+    EXPECT_EQ(graphics_->Status, InvalidParameter);
 }
 
 TEST_F(GpGraphicsTest, AsksForTheBoxOfTheClip) {

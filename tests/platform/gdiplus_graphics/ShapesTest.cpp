@@ -40,6 +40,15 @@ TEST_F(GdiplusShapes, DrawCrispLinesUnderAntialiasing) {
     ExpectDrawn(Frame(1, 2, 7, 7));
 }
 
+TEST_F(GdiplusShapes, ComeInFromFarOutside) {
+    ASSERT_EQ(GdipDrawLine(onContext_, pen_, -3e8f, 3, 4e9f, 3), Ok);
+    ExpectDrawn(Box(0, 3, kWidth, 4, kRed));
+    GdipSetSmoothingMode(onContext_, SmoothingModeAntiAlias);
+    ASSERT_EQ(GdipFillRectangle(onContext_, Solid(kRed), -1e9f, 2.5f, 2e9f, 1e9f), Ok);
+    EXPECT_EQ(OnContext().At(5, 9), kRed);
+    EXPECT_EQ(OnContext().At(5, 2), 0u);
+}
+
 TEST_F(GdiplusShapes, DrawLinesOfSeveralPoints) {
     const GpPointF points[] = {{1, 1}, {8, 1}, {8, 6}};
     const GpPoint pointsI[] = {{1, 1}, {8, 1}, {8, 6}};

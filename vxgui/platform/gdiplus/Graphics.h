@@ -50,8 +50,6 @@ public:
     /// Makes a brush the source of a context whose user space is the world. `device` is the box of
     /// pixels that will be painted.
     void SetSource(cairo_t* cairo, const Brush& brush, const GpRect& device) const;
-    /// Fills the current path of a context of `Paint` with a brush.
-    void Fill(cairo_t* cairo, const Brush& brush, const GpRect& device) const;
 
     Affine PageToDevice() const;
     Affine WorldToDevice() const;

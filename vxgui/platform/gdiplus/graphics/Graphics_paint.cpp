@@ -135,9 +135,4 @@ void Graphics::MoveToSamples(cairo_t* cairo) const {
     cairo_set_matrix(cairo, &moved);
 }
 
-void Graphics::Fill(cairo_t* cairo, const Brush& brush, const GpRect& device) const {
-    SetSource(cairo, brush, device);
-    cairo_fill(cairo);
-}
-
 }  // namespace vxgui::gdiplus
