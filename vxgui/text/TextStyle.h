@@ -5,6 +5,9 @@
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
 #include "vxgui/base/String.h"
+#include "vxgui/gdip/GpBrush.h"
+#include "vxgui/gdip/GpGraphics.h"
+#include "vxgui/gdip/GpStringFormat.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_text.h"
 #include "vxgui/platform/ole.h"
@@ -73,6 +76,10 @@ public:
     /// Reads a section of a define file. Numbers are brought into range by a remainder.
     void FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName);
 
+    /// The brushes of the two colours, made on first use. Once made they don't follow the fields.
+    Ref<GpBrush> TextBrush();
+    Ref<GpBrush> ShadowBrush();
+
     /// The shadow takes part only with a draw style above 0. Nothing is brought into range.
     void ReadProperties(const Ref<ole::PropertyBag>& propBag);
     void WriteProperties(const Ref<ole::PropertyBag>& propBag) const;
@@ -104,7 +111,17 @@ private:
     void PaintCopies(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
                      std::span<const gdi::POINT> places) const;
 
+    void PaintBlurredShadow(gdi::HDC hDC, const String& text, const gdi::RECT& rect);
+    void PaintBlurred(const String& text, int32_t width, int32_t height);
+    void DrawOn(gdi::HDC hDC, const String& text, const gdi::RECT& rect, const Ref<GpBrush>& brush);
+
+    // Made by the first drawing and by the accessors, and kept.
+    Ref<GpGraphics> mGraphics;
+    Ref<GpStringFormat> mStringFormat;
     Ref<class LFont> mFont;  ///< of the last drawing
+    Ref<GpBrush> mTextBrush;
+    Ref<GpBrush> mShadowBrush;
+    Ref<cAlphaDIBSection> mSurface;
 };
 
 }  // namespace vxgui

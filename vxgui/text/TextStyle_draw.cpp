@@ -66,6 +66,11 @@ void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<c
     const KeepAlive keep(this);
     if (!LFont) LFont = New<class LFont>();
     mFont = LFont;
+    if (!mGraphics) {
+        mGraphics = New<GpGraphics>();
+        mSurface = New<cAlphaDIBSection>();
+        mStringFormat = New<GpStringFormat>();
+    }
     gdi::RECT rect{x1, y1, x2, y2};
     const int oldMode = gdi::SetBkMode(hDC, gdi::TRANSPARENT);
     const gdi::HGDIOBJ oldFont = gdi::SelectObject(hDC, mFont->hFont());
@@ -112,6 +117,9 @@ void TextStyle::PaintByStyle(gdi::HDC hDC, const String& text, gdi::RECT rect, u
             DrawShadowTextA(hDC, rect,
                             {text, -1, flags, static_cast<int32_t>(textRgb),
                              static_cast<int32_t>(shadowRgb), x, y, ShadowOffsetX, ShadowOffsetY});
+            break;
+        case 5:
+            PaintBlurredShadow(hDC, text, rect);
             break;
         default:
             // The style's colour is what is put back after a plain paint, on purpose: the context

@@ -7,7 +7,7 @@ namespace vxgui::gdiplus {
 
 /// A white picture with a graphics, on which strings are drawn and measured.
 class StringCanvas : public StringFixture {
-protected:
+public:
     StringCanvas() { Resize(200, 60); }
     ~StringCanvas() override;
 

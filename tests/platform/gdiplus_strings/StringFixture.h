@@ -10,7 +10,7 @@ namespace vxgui::gdiplus {
 
 /// Makes the objects of text, and deletes them at the end.
 class StringFixture : public testing::Test {
-protected:
+public:
     ~StringFixture() override;
 
     GpFontFamily* Family(const char16_t* name = u"DejaVu Sans");
