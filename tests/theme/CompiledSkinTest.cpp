@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
+#include <algorithm>
 
 #include "tests/support/Errors.h"
 #include "tests/support/TemporaryFolder.h"
@@ -347,6 +347,27 @@ TEST(CompiledSkinDamage, RecordsAreCheckedFieldByField) {
 TEST(CompiledSkinDamage, TooManyRecordsAreRefused) {
     const ByteArray empty(4 * 100001);
     EXPECT_THAT(RefusalOf({{SectionKind::Items, empty}}), HasSubstr("too many records"));
+}
+
+TEST(CompiledSkinDamage, SectionsStandOnce) {
+    for (const SectionKind kind : {SectionKind::Set, SectionKind::Fonts, SectionKind::Styles,
+                                   SectionKind::Items, SectionKind::Notes}) {
+        EXPECT_EQ(RefusalOf({{kind, {}}}), "");
+        EXPECT_THAT(RefusalOf({{kind, {}}, {kind, {}}}), HasSubstr("two sections of one kind"));
+    }
+}
+
+TEST(CompiledSkinDamage, TooManySectionsAreRefused) {
+    EXPECT_EQ(test::RaisedBy([] {
+                  compiled::WriteContainer(std::vector<Section>(10001, {SectionKind::Picture, {}}));
+              }),
+              6);
+    ByteArray file(20 + 12 * 10001);
+    const ByteArray small = BytesOfCompiledSkin({New<ThemeSet>(), {}});
+    std::copy_n(small.begin(), 8, file.begin());
+    StoreLittle<uint32_t>(file.data() + 8, static_cast<uint32_t>(file.size()));
+    StoreLittle<uint32_t>(file.data() + 16, 10001);
+    EXPECT_THAT(Refusal(Signed(file)), HasSubstr("too many sections"));
 }
 
 TEST(CompiledSkin, IsRefusedWhenItIsTooLargeToBeRead) {

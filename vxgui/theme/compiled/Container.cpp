@@ -18,6 +18,8 @@ constexpr size_t kCheckedFrom = kCountAt;  // the checksum covers all that follo
 constexpr size_t kEntrySize = 12;
 // Of all sections together, uncompressed. A picture is there twice while it is read.
 constexpr size_t kMostBytes = size_t{96} << 20;
+// Far more pictures than a skin has; an object takes more memory than the few bytes of a section.
+constexpr size_t kMostSections = 10000;
 
 uint32_t Load(const ByteArray& file, size_t at) { return LoadLittle<uint32_t>(file.data() + at); }
 
@@ -34,6 +36,8 @@ String Number(size_t value) { return String::FromInt(static_cast<int64_t>(value)
 void CheckTotal(const std::vector<Section>& sections) {
     size_t total = 0;
     for (const Section& section : sections) total += section.bytes.size();
+    if (sections.size() > kMostSections)
+        throw Error(ErrorNumber::Overflow, "CompiledSkin", "too many pictures");
     if (total <= kMostBytes) return;
     throw Error(ErrorNumber::Overflow, "CompiledSkin",
                 "too large: pictures and all, it may have " + Number(kMostBytes >> 20) + " MiB");
@@ -91,6 +95,7 @@ void Container::ReadTable() {
     const size_t count = Load(file_, kCountAt);
     if (count > (file_.size() - kHeaderSize) / kEntrySize)
         RaiseDamaged("damaged: its table goes beyond its end");
+    if (count > kMostSections) RaiseDamaged("refused: too many sections");
     size_t offset = kHeaderSize + kEntrySize * count, total = 0;
     entries_.reserve(count);
     for (size_t at = kHeaderSize; entries_.size() < count; at += kEntrySize) {

@@ -56,6 +56,8 @@ CompiledSkin SkinReader::Read() {
 }
 
 void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
+    if (kind != SectionKind::Picture && !kinds_.insert(kind).second)
+        RaiseDamaged("damaged: it has two sections of one kind");
     switch (kind) {
         case SectionKind::Set:
             return ReadSet(bytes);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/compiled/Container.h"
 
@@ -24,6 +26,7 @@ private:
     CompiledSkin skin_;
     int32_t fontsInPool_ = 0;
     int32_t stylesInPool_ = 0;
+    std::set<SectionKind> kinds_;  ///< of the sections that were read, pictures aside
     std::vector<Ref<cAlphaDIBSection>> pictures_;
     std::vector<Ref<LFont>> fonts_;
     std::vector<Ref<TextStyle>> styles_;
