@@ -84,6 +84,23 @@ public:
                             float SweepAngle);
     gdiplus::Status AddPolygonI(const gdiplus::GpPoint* Points, int32_t Count);
 
+    // Text, as outlines. A length of -1 means up to the end.
+    gdiplus::Status AddString(const String& Text, int32_t Length,
+                              gdiplus::GpFontFamily* hGpFontFamily, int32_t Style, float emSize,
+                              const gdiplus::GpRectF& LayoutRect,
+                              gdiplus::GpStringFormat* hGpStringFormat = nullptr);
+    gdiplus::Status AddStringI(const String& Text, int32_t Length,
+                               gdiplus::GpFontFamily* hGpFontFamily, int32_t Style, float emSize,
+                               const gdiplus::GpRect& LayoutRect,
+                               gdiplus::GpStringFormat* hGpStringFormat = nullptr);
+    /// In a font's family and style, at the size that gives the font's height. Raises for no font.
+    bool AddStringWithFont(const String& Text, const Ref<GpFont>& Font,
+                           gdiplus::GpStringFormat* hGpStringFormat, float Left, float Top,
+                           float Width, float Height);
+    bool AddStringWithFontI(const String& Text, const Ref<GpFont>& Font,
+                            gdiplus::GpStringFormat* hGpStringFormat, int32_t Left, int32_t Top,
+                            int32_t Width, int32_t Height);
+
     // Changes of the whole. The matrix may be null.
     gdiplus::Status Flatten(gdiplus::GpMatrix* hGpMatrix = nullptr, float Flatness = 0.25f);
     gdiplus::Status Outline(gdiplus::GpMatrix* hGpMatrix = nullptr, float Flatness = 0.25f);
@@ -119,6 +136,9 @@ private:
         const std::vector<Item> copy = CopyOf(items, count);
         return copy.empty() ? gdiplus::Ok : call(Handle(), copy.data(), count, args...);
     }
+    template <class Rect, class Call>
+    bool AddWithFont(const String& text, const Ref<GpFont>& font, gdiplus::GpStringFormat* format,
+                     const Rect& rect, const Call& call);
     template <class Point, class Call>
     bool CreateFrom(const Point* points, const uint8_t* types, int32_t count,
                     gdiplus::FillMode mode, const Call& call);

@@ -83,6 +83,53 @@ TEST_F(PathHits, AThinPenIsAPixelWide) {
     EXPECT_FALSE(IsOn(20, 10.6f, pen));
 }
 
+/// A graphics whose world is four times as large as its pixels.
+class LargeWorld {
+public:
+    LargeWorld() {
+        EXPECT_EQ(GdipCreateBitmapFromScan0(4, 4, 0, PixelFormat32bppARGB, nullptr, &bitmap_), Ok);
+        EXPECT_EQ(GdipGetImageGraphicsContext(Image(), &graphics_), Ok);
+        EXPECT_EQ(GdipScaleWorldTransform(graphics_, 4, 4, MatrixOrderPrepend), Ok);
+    }
+    ~LargeWorld() {
+        GdipDeleteGraphics(graphics_);
+        GdipDisposeImage(Image());
+    }
+    operator GpGraphics*() const { return graphics_; }
+
+private:
+    GpImage* Image() const { return reinterpret_cast<GpImage*>(bitmap_); }
+
+    GpBitmap* bitmap_ = nullptr;
+    GpGraphics* graphics_ = nullptr;
+};
+
+TEST_F(PathHits, AGraphicsSaysHowLargeAPixelIs) {
+    const LargeWorld graphics;
+    EXPECT_EQ(GdipAddPathLine(path, 10, 10, 30, 10), Ok);
+    const OwnedPen thin = NewPen(0), pixels = NewPen(8, UnitPixel), world = NewPen(8);
+    const auto isOn = [&](REAL y, GpPen* pen) {
+        BOOL result = 7;
+        EXPECT_EQ(GdipIsOutlineVisiblePathPoint(path, 20, y, pen, graphics, &result), Ok);
+        return result == 1;
+    };
+    EXPECT_TRUE(isOn(10.1f, thin));
+    EXPECT_FALSE(isOn(10.2f, thin));
+    EXPECT_TRUE(isOn(10.9f, pixels));
+    EXPECT_FALSE(isOn(11.1f, pixels));
+    EXPECT_TRUE(isOn(13.9f, world));
+}
+
+TEST_F(PathHits, FillsAreHitInTheWorldOfAGraphics) {
+    const LargeWorld graphics;
+    EXPECT_EQ(GdipAddPathEllipse(path, 0, 0, 100, 100), Ok);
+    BOOL result = 7;
+    EXPECT_EQ(GdipIsVisiblePathPoint(path, 15, 15, graphics, &result), Ok);
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(GdipIsVisiblePathPointI(path, 14, 14, graphics, &result), Ok);
+    EXPECT_EQ(result, 0);
+}
+
 TEST_F(PathHits, BoundsTakeInTheSteeringPoints) {
     EXPECT_EQ(GdipAddPathBezier(path, 0, 0, -10, 20, 40, -30, 30, 0), Ok);
     GpRectF r{};

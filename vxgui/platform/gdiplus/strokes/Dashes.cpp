@@ -1,49 +1,11 @@
 #include <algorithm>
-#include <numeric>
 
 #include "vxgui/platform/gdiplus/strokes/Caps.h"
+#include "vxgui/platform/gdiplus/strokes/DashPattern.h"
 #include "vxgui/platform/gdiplus/strokes/Ruler.h"
 
 namespace vxgui::gdiplus {
 namespace {
-
-/// A pattern of dashes in the units of the line.
-class Pattern {
-public:
-    Pattern(const PenSettings& pen, double width)
-        : lengths_(pen.dashes.begin(), pen.dashes.end()), offset_(pen.dashOffset * width) {
-        for (double& length : lengths_) length *= width;
-        if (lengths_.size() % 2) lengths_.insert(lengths_.end(), lengths_.begin(), lengths_.end());
-        total_ = std::accumulate(lengths_.begin(), lengths_.end(), 0.0);
-    }
-
-    /// The dashes that lie within `whole`, cut at its ends.
-    std::vector<Stretch> Within(const Stretch& whole) const {
-        if (!IsSensible(whole)) return {whole};
-        std::vector<Stretch> result;
-        double at = whole.from - offset_ + std::floor(offset_ / total_) * total_;
-        for (size_t i = 0; at < whole.to; i = (i + 1) % lengths_.size()) {
-            const double next = at + lengths_[i];
-            if (i % 2 == 0 && next > whole.from) {
-                result.push_back({std::max(at, whole.from), std::min(next, whole.to)});
-            }
-            at = next;
-        }
-        return result;
-    }
-
-private:
-    /// False for no dashes at all, and for so many that they'd show as a solid line.
-    bool IsSensible(const Stretch& whole) const {
-        constexpr double kMost = 1e6;
-        const double rounds = (whole.to - whole.from) / total_;
-        return total_ > 0 && rounds * static_cast<double>(lengths_.size()) < kMost;
-    }
-
-    std::vector<double> lengths_;
-    double offset_;
-    double total_ = 0;
-};
 
 Vec Outward(const Line& line, bool atStart) {
     const auto& c = line.corners;
@@ -61,7 +23,7 @@ public:
         whole_ = {0, ruler_.Length()};
         if (!line_.closed) TakeArrows();
         if (whole_.from >= whole_.to) return;
-        const std::vector<Stretch> dashes = Pattern(pen_, width_).Within(whole_);
+        const std::vector<Stretch> dashes = DashPattern(pen_, width_).Within(whole_);
         if (dashes.empty()) return;
         const bool full = dashes.front().from == whole_.from && dashes.back().to == whole_.to;
         if (line_.closed && full && dashes.size() == 1) {
