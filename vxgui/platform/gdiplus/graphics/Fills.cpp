@@ -46,7 +46,8 @@ void ClearTo(Graphics& graphics, ARGB color) {
     DrawingTarget& target = graphics.Target();
     const GpRect area = graphics.Drawable({0, 0, target.Width(), target.Height()});
     if (IsEmpty(area)) return;
-    for (const pixman_box32_t& box : ClipWithin(graphics, area).Boxes()) {
+    const gdi::PixelRegion pixels = ClipWithin(graphics, area);
+    for (const pixman_box32_t& box : pixels.Boxes()) {
         target.Store(FromRECT(gdi::RectOf(box)), color);
     }
 }
