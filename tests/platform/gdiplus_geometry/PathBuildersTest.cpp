@@ -291,6 +291,14 @@ TEST_F(PathBuilders, ArcsLieOnTheirEllipseBetweenTheRays) {
     }
 }
 
+TEST_F(PathBuilders, AnArcByAnglesOfNoMeaningIsAPoint) {
+    for (const REAL angle : {std::nanf(""), INFINITY}) {
+        const OwnedPath path = NewPath();
+        EXPECT_EQ(GdipAddPathArc(path, 0, 0, 10, 10, angle, 90), Ok);
+        EXPECT_EQ(CountOf(path), 1);
+    }
+}
+
 TEST_F(PathBuilders, AWholeTurnEndsWhereItBegan) {
     const OwnedPath path = NewPath();
     EXPECT_EQ(GdipAddPathArc(path, 0, 0, 33, 17, 77, 360), Ok);

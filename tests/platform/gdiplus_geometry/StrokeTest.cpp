@@ -167,6 +167,20 @@ TEST_F(Strokes, CountlessDashesAreASolidLine) {
     EXPECT_NEAR(AreaOf(pen, kLine), 1000, 1);
 }
 
+TEST_F(Strokes, ALongDashOffsetCountsByWhatItIsInThePattern) {
+    PenSettings pen = PenOf(10);
+    pen.dashes = {3, 1};
+    for (const bool plain : {true, false}) {
+        if (!plain) pen.compound = {0, 1};
+        pen.dashOffset = -1 - 4 * 1e5f;
+        EXPECT_NEAR(AreaOf(pen, kLine), 700, 1);
+        pen.dashOffset = 1e30f;
+        EXPECT_GT(AreaOf(pen, kLine), 690);
+        pen.dashOffset = INFINITY;
+        EXPECT_NEAR(AreaOf(pen, kLine), 1000, 1);
+    }
+}
+
 TEST_F(Strokes, CompoundLinesLeaveTheirGaps) {
     PenSettings pen = PenOf(20);
     pen.compound = {0, 0.25f, 0.75f, 1};
@@ -278,6 +292,10 @@ TEST_F(Strokes, OddPathsDoNoHarm) {
     sheet.Draw(pen, Points({{5, 5}}, true));
     sheet.Draw(pen, Points({{5, 5}, {25, 5}, {5, 5}}, true));
     sheet.Draw(pen, Points({{5, 5}, {25, 5}, {5, 5}, {25, 5}}));
+    for (const REAL flatness : {nan, -1.f, 0.f, 1e30f}) {
+        pen.startCap = LineCapRound;
+        EXPECT_FALSE(StrokePolygons(pen, kLine, {}, flatness).empty());
+    }
 }
 
 TEST_F(Strokes, StayWithinTheirBounds) {

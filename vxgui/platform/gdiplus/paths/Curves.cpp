@@ -52,8 +52,9 @@ CurvePoints ArcCurve(const GpRectF& box, REAL startAngle, REAL sweepAngle) {
     const double start = ellipse.OnCircle(ray);
     const bool whole = std::abs(sweep) >= kTurn;
     const double angle = whole ? sweep : ellipse.OnCircle(ray + sweep) - start;
-    const int pieces = static_cast<int>(std::ceil(std::abs(angle) / (kTurn / 4) - 1e-6));
     CurvePoints curve{ToPointF(ellipse.At(start))};
+    if (!std::isfinite(angle)) return curve;
+    const int pieces = static_cast<int>(std::ceil(std::abs(angle) / (kTurn / 4) - 1e-6));
     if (pieces < 1) return curve;
     const double step = angle / pieces;
     const double handle = 4.0 / 3 * std::tan(step / 4);  // the middle of the piece is on the circle

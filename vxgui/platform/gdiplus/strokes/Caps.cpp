@@ -22,7 +22,7 @@ double LengthOfArrow(double width) { return width * std::numbers::sqrt3; }
 void AddArc(Polygon& polygon, Vec middle, Vec start, double angle, double tolerance) {
     const double radius = start.Length();
     if (radius == 0) return;
-    const double step = 2 * std::acos(std::clamp(1 - tolerance / radius, 0.0, 0.9999));
+    const double step = 2 * std::acos(std::clamp(1 - tolerance / radius, 0.0, 1 - 1e-6));
     const int chords = std::max(1, static_cast<int>(std::ceil(std::abs(angle) / step)));
     for (int i = 0; i <= chords; ++i) {
         polygon.push_back(middle + Turned(start, angle * i / chords));

@@ -10,12 +10,14 @@ DashPattern::DashPattern(const PenSettings& pen, double width)
     if (lengths_.size() % 2) lengths_.insert(lengths_.end(), pen.dashes.begin(), pen.dashes.end());
     for (double& length : lengths_) length *= width;
     total_ = std::accumulate(lengths_.begin(), lengths_.end(), 0.0);
+    offset_ = std::fmod(offset_, total_);
+    if (offset_ < 0) offset_ += total_;
 }
 
 std::vector<Stretch> DashPattern::Within(const Stretch& whole) const {
     if (!IsSensible(whole)) return {whole};
     std::vector<Stretch> result;
-    double at = whole.from - offset_ + std::floor(offset_ / total_) * total_;
+    double at = whole.from - offset_;
     for (size_t i = 0; at < whole.to; i = (i + 1) % lengths_.size()) {
         const double next = at + lengths_[i];
         if (i % 2 == 0 && next > whole.from) {

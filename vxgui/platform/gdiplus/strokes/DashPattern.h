@@ -13,6 +13,10 @@ public:
     /// The dashes that lie within `whole`, cut at its ends; all of it for a pen without dashes.
     std::vector<Stretch> Within(const Stretch& whole) const;
 
+    const std::vector<double>& Lengths() const { return lengths_; }
+    /// How far into the pattern a line begins: less than the pattern's length, 0 or more.
+    double Offset() const { return offset_; }
+
 private:
     bool IsSensible(const Stretch& whole) const;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "vxgui/platform/gdiplus/CairoMatrix.h"
+#include "vxgui/platform/gdiplus/strokes/DashPattern.h"
 #include "vxgui/platform/gdiplus/strokes/Stroker.h"
 
 namespace vxgui::gdiplus {
@@ -53,13 +54,18 @@ bool IsPlain(const PenSettings& pen, const PathPoints& path, const Nib& nib) {
     if (!pen.compound.empty() || pen.alignment != PenAlignmentCenter) return false;
     if (pen.startCap != pen.endCap || !IsCairoCap(pen.startCap)) return false;
     const bool flat = pen.startCap == LineCapFlat && pen.dashCap == DashCapFlat;
-    return (pen.dashes.empty() || flat) && !MayClipMiters(pen, path, nib);
+    return (pen.dashes.empty() || (flat && std::isfinite(pen.dashOffset))) &&
+           !MayClipMiters(pen, path, nib);
 }
 
 void SetDashes(cairo_t* cairo, const PenSettings& pen, double width) {
-    std::vector<double> lengths(pen.dashes.begin(), pen.dashes.end());
-    for (double& length : lengths) length *= width;
-    cairo_set_dash(cairo, lengths.data(), static_cast<int>(lengths.size()), pen.dashOffset * width);
+    if (pen.dashes.empty()) {
+        cairo_set_dash(cairo, nullptr, 0, 0);
+        return;
+    }
+    const DashPattern pattern(pen, width);
+    const std::vector<double>& lengths = pattern.Lengths();
+    cairo_set_dash(cairo, lengths.data(), static_cast<int>(lengths.size()), pattern.Offset());
 }
 
 }  // namespace

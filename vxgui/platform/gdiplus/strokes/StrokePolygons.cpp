@@ -91,7 +91,8 @@ Polygons StrokePolygons(const PenSettings& pen, const PathPoints& path, const St
     const auto nib = NibOf(pen, place, thinnest);
     if (!nib) return {};
     Polygons result;
-    const double tolerance = flatness / nib->pixels;
+    constexpr REAL kFinest = 1.f / 1024;
+    const double tolerance = (flatness > kFinest ? flatness : kFinest) / nib->pixels;
     Outliner outliner(pen, nib->width, tolerance, result);
     for (const Line& line : LinesOf(path, nib->toSpace, tolerance)) outliner.Add(line);
     for (Polygon& polygon : result) {
