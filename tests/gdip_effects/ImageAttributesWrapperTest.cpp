@@ -29,6 +29,11 @@ TEST_F(ImageAttributesWrapper, ANewOneIsUsableAtOnce) {
     EXPECT_EQ(Adjusted(kColor), 0xFF00FFFFu);
 }
 
+// Each test is a process of its own, so that nothing has started GDI+ here.
+TEST(WrappersStart, TheFirstWrapperOfAThreadStartsGdiplus) {
+    EXPECT_NE(New<GpImageAttributes>()->Handle(), nullptr);
+}
+
 TEST_F(ImageAttributesWrapper, SetAndClearComeInPairs) {
     using Attributes = GpImageAttributes;
     gdiplus::ColorMatrix matrix{};

@@ -8,13 +8,15 @@
 
 namespace vxgui {
 
-/// What all wrappers of flat objects share: a status that sticks, and the check that sets it.
-class GpObject : public Object {
+/// What all wrappers of flat objects share: a status that sticks, and the check that sets it. The
+/// first one in an apartment starts GDI+, as the first of the library's objects does everywhere.
+class VXGUI_API GpObject : public Object {
 public:
     /// The status of the last flat call that failed; a successful call doesn't clear it.
     gdiplus::Status Status = gdiplus::Ok;
 
 protected:
+    GpObject();
     /// Keeps a failure, and answers whether there was none.
     bool Check(gdiplus::Status status) {
         if (status != gdiplus::Ok) Status = status;
