@@ -20,6 +20,7 @@ constexpr const char* kExamples =
     "  vxgui pack styles -o DefaultStyles.dll\n"
     "  vxgui convert skins/aurora/button.tga -o button.png\n"
     "  vxgui adjust skins/aurora/*.tga -o tinted --to tga --hue 140\n"
+    "  vxgui effect photo.jpg -o soft.png --blur 6\n"
     "  vxgui info skins/aurora/button.tga\n"
     "\n"
     "Exit status: 0 when all is well, 1 for an error in a file, 2 for a wrong command line.";
@@ -57,6 +58,7 @@ int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream&
     AddCheck(app, out);
     AddCompile(app, out);
     AddConvert(app, out, errors);
+    AddEffect(app, out, errors);
     AddGallery(app, out);
     AddInfo(app, out);
     AddRender(app, out);
