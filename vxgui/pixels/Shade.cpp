@@ -26,16 +26,17 @@ const std::array<float, kSteps + 1>& StoredTable() {
     return table;
 }
 
+// What is no number counts as 0.
+float Bounded(float value) { return value > 0 ? std::min(value, 1.0f) : 0; }
+
 float FromLight(float light) {
-    const float root = std::sqrt(std::clamp(light, 0.0f, 1.0f));
+    const float root = std::sqrt(Bounded(light));
     return StoredTable()[static_cast<size_t>(root * kSteps + 0.5f)];
 }
 
 float Channel(uint32_t color, int shift) { return static_cast<float>(color >> shift & 255) / 255; }
 
-uint32_t Byte(float value) {
-    return static_cast<uint32_t>(std::clamp(value, 0.0f, 1.0f) * 255 + 0.5f);
-}
+uint32_t Byte(float value) { return static_cast<uint32_t>(Bounded(value) * 255 + 0.5f); }
 
 }  // namespace
 

@@ -80,7 +80,7 @@ ShadeMesh::ShadeMesh(int32_t width, int32_t height)
 
 void ShadeMesh::Set(size_t at, float depth, const Shade& edge, const DepthShading& shading) {
     const float order = depth >= 0 ? depth : 2 - depth;
-    if (order >= order_[at]) return;
+    if (!(order < order_[at])) return;  // nor for what is no number
     order_[at] = order;
     pixels_[at] = shading.At(std::clamp(depth, 0.0f, 1.0f), edge);
 }

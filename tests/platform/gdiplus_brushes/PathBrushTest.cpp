@@ -178,6 +178,23 @@ TEST_F(GdiplusPathBrush, CopiesTooSmallToSeeEndQuickly) {
     EXPECT_EQ(Paint(brush, 4, 4).pixels, std::vector<uint32_t>(16, kRed));
 }
 
+TEST_F(GdiplusPathBrush, NumbersThatAreNoneDoNoHarm) {
+    const REAL kInfinity = HUGE_VALF;
+    GpBrush* brush = Square(20);
+    const GpPointF far{kInfinity, kInfinity};
+    GdipSetPathGradientCenterPoint(brush, &far);
+    EXPECT_EQ(Paint(brush, 30, 30).At(25, 25), 0u);
+    const GpPointF center{10, 10};
+    GdipSetPathGradientCenterPoint(brush, &center);
+    GdipSetPathGradientFocusScales(brush, kInfinity, -kInfinity);
+    EXPECT_EQ(Paint(brush, 30, 30).At(25, 25), 0u);
+    GdipSetPathGradientFocusScales(brush, 0, 0);
+    GdipSetPathGradientGammaCorrection(brush, 1);
+    const REAL factors[] = {NAN, kInfinity}, places[] = {0, 1};
+    ASSERT_EQ(GdipSetPathGradientBlend(brush, factors, places, 2), Ok);
+    EXPECT_EQ(Paint(brush, 30, 30).At(25, 25), 0u);
+}
+
 TEST_F(GdiplusPathBrush, KeepsColoursAndCentre) {
     GpBrush* brush = Square(10);
     ARGB color = 0;
