@@ -38,11 +38,18 @@ VXPLATFORM_API GpStatus GdipCreateBitmapFromGraphics(INT width, INT height, GpGr
 VXPLATFORM_API GpStatus GdipCreateBitmapFromDirectDrawSurface(void* surface, GpBitmap** bitmap);
 
 /// Decodes a file or stream (BMP, GIF, ICO, JPEG, PNG, TIFF) by its signature, whatever its name:
-/// the first frame, to 32-bit pixels. As an image, a file that isn't there gives `FileNotFound` and
-/// one that is no picture `OutOfMemory`; as a bitmap, both give `InvalidParameter`.
+/// the first frame, in the file's own pixel format: indexes stay indexes and 24 bits 24, grey is
+/// indexed, 16 bits a channel become 8. The forms with ICM heed no profile either. As an image, a
+/// file that isn't there gives `FileNotFound` and one that is no picture `OutOfMemory`; as a
+/// bitmap, both give `InvalidParameter`.
 VXPLATFORM_API GpStatus GdipLoadImageFromFile(const WCHAR* filename, GpImage** image);
+VXPLATFORM_API GpStatus GdipLoadImageFromFileICM(const WCHAR* filename, GpImage** image);
+VXPLATFORM_API GpStatus GdipLoadImageFromStream(IStream* stream, GpImage** image);
+VXPLATFORM_API GpStatus GdipLoadImageFromStreamICM(IStream* stream, GpImage** image);
 VXPLATFORM_API GpStatus GdipCreateBitmapFromFile(const WCHAR* filename, GpBitmap** bitmap);
+VXPLATFORM_API GpStatus GdipCreateBitmapFromFileICM(const WCHAR* filename, GpBitmap** bitmap);
 VXPLATFORM_API GpStatus GdipCreateBitmapFromStream(IStream* stream, GpBitmap** bitmap);
+VXPLATFORM_API GpStatus GdipCreateBitmapFromStreamICM(IStream* stream, GpBitmap** bitmap);
 
 /// All of an image: pixels, palette, resolution, properties.
 VXPLATFORM_API GpStatus GdipCloneImage(GpImage* image, GpImage** clone);
@@ -134,6 +141,7 @@ VXPLATFORM_API GpStatus GdipBitmapSetResolution(GpBitmap* bitmap, REAL xdpi, REA
     X(GdipCloneImage)                        \
     X(GdipCreateBitmapFromDirectDrawSurface) \
     X(GdipCreateBitmapFromFile)              \
+    X(GdipCreateBitmapFromFileICM)           \
     X(GdipCreateBitmapFromGdiDib)            \
     X(GdipCreateBitmapFromGraphics)          \
     X(GdipCreateBitmapFromHBITMAP)           \
@@ -141,6 +149,7 @@ VXPLATFORM_API GpStatus GdipBitmapSetResolution(GpBitmap* bitmap, REAL xdpi, REA
     X(GdipCreateBitmapFromResource)          \
     X(GdipCreateBitmapFromScan0)             \
     X(GdipCreateBitmapFromStream)            \
+    X(GdipCreateBitmapFromStreamICM)         \
     X(GdipCreateHBITMAPFromBitmap)           \
     X(GdipCreateHICONFromBitmap)             \
     X(GdipDisposeImage)                      \
@@ -160,4 +169,7 @@ VXPLATFORM_API GpStatus GdipBitmapSetResolution(GpBitmap* bitmap, REAL xdpi, REA
     X(GdipImageRotateFlip)                   \
     X(GdipInitializePalette)                 \
     X(GdipLoadImageFromFile)                 \
+    X(GdipLoadImageFromFileICM)              \
+    X(GdipLoadImageFromStream)               \
+    X(GdipLoadImageFromStreamICM)            \
     X(GdipSetImagePalette)

@@ -147,6 +147,22 @@ TEST_F(Clone, AThumbnailIsScaled) {
     EXPECT_EQ(pixels[0] >> 24, 255u);
 }
 
+TEST_F(Clone, AStoredThumbnailServes) {
+    GpImage* image = AsImage(Make(4, 4, PixelFormat24bppRGB));
+    GpImage* red = AsImage(Make(2, 2, PixelFormat24bppRGB, std::vector<ARGB>(4, 0xFFFF0000)));
+    const Ref<ole::IStream> stream = ole::CreateStreamOnHGlobal();
+    ASSERT_EQ(GdipSaveImageToStream(red, stream.get(), &CodecPNG, nullptr), Ok);
+    std::vector<uint8_t> bytes(stream->Size());
+    stream->Seek(0, ole::SeekOrigin::Set);
+    stream->Read(bytes.data(), static_cast<uint32_t>(bytes.size()));
+    const PropertyItem item{0x501B, static_cast<DWORD>(bytes.size()), 1, bytes.data()};
+    ASSERT_EQ(GdipSetPropertyItem(image, &item), Ok);
+    GpImage* thumbnail = nullptr;
+    ASSERT_EQ(GdipGetImageThumbnail(image, 3, 0, &thumbnail, nullptr, nullptr), Ok);
+    EXPECT_EQ(Pixels(Keep(reinterpret_cast<GpBitmap*>(thumbnail))),
+              std::vector<ARGB>(9, 0xFFFF0000));
+}
+
 TEST_F(Clone, AThumbnailCanBeCalledOff) {
     GpImage* image = AsImage(Make(4, 2, PixelFormat24bppRGB));
     GpImage* thumbnail = nullptr;

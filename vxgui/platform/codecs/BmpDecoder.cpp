@@ -51,12 +51,14 @@ public:
 
     bool ReadHeader();
     bool Decode(const PixelRows& rows) override;
+    bool DecodeIndexes(const PixelRows& rows) override;
 
 private:
     bool SetChannels();
+    void SetForm();
     bool DecodePlain(const PixelRows& rows) const;
     void DecodeRow(const uint8_t* from, uint8_t* to) const;
-    void DecodeIndexes(const uint8_t* from, uint8_t* to) const;
+    void UnpackIndexes(const uint8_t* from, uint8_t* to) const;
     void DecodeFields(const uint8_t* from, uint8_t* to) const;
 
     Bytes bytes_;
@@ -71,7 +73,28 @@ bool BmpDecoder::ReadHeader() {
     bmp_ = *read;
     header_.width = bmp_.width;
     header_.height = bmp_.height;
-    return SetChannels();
+    header_.dpiX = bmp_.dpiX;
+    header_.dpiY = bmp_.dpiY;
+    if (!SetChannels()) return false;
+    SetForm();
+    return true;
+}
+
+// What no plain form says keeps 32 bits.
+void BmpDecoder::SetForm() {
+    if (bmp_.bits <= 8) {
+        const size_t count = bmp_.paletteSize ? bmp_.paletteSize : size_t{1} << bmp_.bits;
+        return header_.SetIndexed(
+            bmp_.bits,
+            {bmp_.palette.begin(), bmp_.palette.begin() + static_cast<ptrdiff_t>(count)});
+    }
+    if (header_.hasAlpha) return;
+    const bool five = bmp_.masks.red == 0x7C00 && bmp_.masks.green == 0x3E0;
+    const bool six = bmp_.masks.red == 0xF800 && bmp_.masks.green == 0x7E0;
+    header_.form = bmp_.bits == 24                                      ? PixelForm::Bgr24
+                   : bmp_.bits == 16 && bmp_.masks.blue == 0x1F && five ? PixelForm::Rgb555
+                   : bmp_.bits == 16 && bmp_.masks.blue == 0x1F && six  ? PixelForm::Rgb565
+                                                                        : PixelForm::Bgrx32;
 }
 
 bool BmpDecoder::SetChannels() {
@@ -84,13 +107,12 @@ bool BmpDecoder::SetChannels() {
            alpha_.SetMask(masks.alpha, 255);
 }
 
-void BmpDecoder::DecodeIndexes(const uint8_t* from, uint8_t* to) const {
+void BmpDecoder::UnpackIndexes(const uint8_t* from, uint8_t* to) const {
     const int bits = bmp_.bits;
     const int mask = (1 << bits) - 1;
-    for (int32_t x = 0; x < bmp_.width; ++x, to += 4) {
+    for (int32_t x = 0; x < bmp_.width; ++x) {
         const int64_t bit = static_cast<int64_t>(x) * bits;
-        const int index = from[bit / 8] >> (8 - bits - bit % 8) & mask;
-        std::memcpy(to, &bmp_.palette[static_cast<size_t>(index)], 4);
+        to[x] = static_cast<uint8_t>(from[bit / 8] >> (8 - bits - bit % 8) & mask);
     }
 }
 
@@ -106,7 +128,7 @@ void BmpDecoder::DecodeFields(const uint8_t* from, uint8_t* to) const {
 }
 
 void BmpDecoder::DecodeRow(const uint8_t* from, uint8_t* to) const {
-    if (bmp_.bits <= 8) return DecodeIndexes(from, to);
+    if (bmp_.bits <= 8) return UnpackIndexes(from, to);
     if (bmp_.bits != 24) return DecodeFields(from, to);
     for (int32_t x = 0; x < bmp_.width; ++x, from += 3, to += 4) {
         std::memcpy(to, from, 3);
@@ -128,6 +150,10 @@ bool BmpDecoder::DecodePlain(const PixelRows& rows) const {
 }
 
 bool BmpDecoder::Decode(const PixelRows& rows) {
+    return bmp_.bits <= 8 ? DecodeByPalette(rows) : DecodePlain(rows);
+}
+
+bool BmpDecoder::DecodeIndexes(const PixelRows& rows) {
     const bool runs =
         bmp_.compression == BmpCompression::Rle8 || bmp_.compression == BmpCompression::Rle4;
     return runs ? DecodeBmpRuns(bmp_, bytes_.subspan(bmp_.pixelOffset), rows) : DecodePlain(rows);

@@ -40,6 +40,11 @@ bool ReadSizes(const HeaderReader& fields, bool core, BmpHeader* header) {
     return true;
 }
 
+// Pixels a metre.
+double DpiOf(uint32_t resolution) {
+    return static_cast<int32_t>(resolution) > 0 ? resolution * 0.0254 : 0;
+}
+
 bool FitsTogether(const BmpHeader& header) {
     const uint16_t bits = header.bits;
     switch (header.compression) {
@@ -88,6 +93,7 @@ size_t ReadPalette(Bytes bytes, size_t table, size_t entrySize, uint32_t used, s
     const size_t asked = used ? used : size_t{1} << header->bits;
     const size_t room = ((pixels > table ? pixels : bytes.size()) - table) / entrySize;
     const size_t count = std::min({asked, room, header->palette.size()});
+    header->paletteSize = count;
     for (size_t i = 0; i < count; ++i) {
         const uint8_t* entry = &bytes[table + i * entrySize];
         header->palette[i] = 0xFF000000u | static_cast<uint32_t>(entry[2]) << 16 |
@@ -113,6 +119,8 @@ std::optional<BmpHeader> ReadBmpHeader(Bytes bytes) {
     // There, 3 and 4 are forms of compression of their own.
     if (size == kOs2HeaderSize && HasBitFields(header)) return std::nullopt;
     ReadMasks(fields, size, &header);
+    header.dpiX = core ? 0 : DpiOf(fields.Dword(24));
+    header.dpiY = core ? 0 : DpiOf(fields.Dword(28));
 
     const size_t table = kFileHeaderSize + size + MaskBytes(size, header);
     const size_t pixels = LoadLittle<uint32_t>(&bytes[10]);

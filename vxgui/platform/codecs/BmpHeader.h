@@ -33,7 +33,9 @@ struct BmpHeader {
     BmpCompression compression = BmpCompression::None;
     BmpMasks masks;
     std::array<uint32_t, 256> palette{};  ///< opaque; black where the file has no entry
+    size_t paletteSize = 0;               ///< entries of the file
     size_t pixelOffset = 0;
+    double dpiX = 0, dpiY = 0;  ///< 0 where the file doesn't say
 };
 
 /// Headers of 12 bytes (OS/2 1.x) and from 16 to 124 bytes (OS/2 2.x, versions 3 to 5).

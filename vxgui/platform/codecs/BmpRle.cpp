@@ -39,16 +39,13 @@ private:
 
 void RunDecoder::Clear() {
     for (int32_t y = 0; y < header_.height; ++y) {
-        for (int32_t x = 0; x < header_.width; ++x) {
-            std::memcpy(rows_.Row(y) + 4 * static_cast<ptrdiff_t>(x), header_.palette.data(), 4);
-        }
+        std::memset(rows_.Row(y), 0, static_cast<size_t>(header_.width));
     }
 }
 
 void RunDecoder::PutOne(uint8_t index) {
     if (x_ < header_.width && y_ < header_.height) {
-        const auto row = static_cast<int32_t>(header_.height - 1 - y_);
-        std::memcpy(rows_.Row(row) + 4 * x_, &header_.palette[index], 4);
+        rows_.Row(static_cast<int32_t>(header_.height - 1 - y_))[x_] = index;
     }
     ++x_;
 }

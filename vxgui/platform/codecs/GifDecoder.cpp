@@ -1,130 +1,133 @@
 #include "vxgui/platform/codecs/GifDecoder.h"
 
-#include <gif_lib.h>
-
 #include <algorithm>
-#include <array>
 #include <cstring>
+
+#include "vxgui/platform/codecs/GifBlocks.h"
+#include "vxgui/platform/codecs/GifReader.h"
 
 namespace vxgui::codecs {
 namespace {
 
+constexpr size_t kMostColors = 256;
+
 class GifDecoder final : public ImageDecoder {
 public:
-    explicit GifDecoder(Bytes bytes) : ImageDecoder(ImageFormat::Gif), rest_(bytes) {
-        file_ = DGifOpen(this, Read, nullptr);
-    }
-    ~GifDecoder() override {
-        if (file_) DGifCloseFile(file_, nullptr);
-    }
+    GifDecoder(Bytes bytes, int frame)
+        : ImageDecoder(ImageFormat::Gif), reader_(bytes), skipped_(frame) {}
 
     bool ReadHeader();
     bool Decode(const PixelRows& rows) override;
+    bool DecodeIndexes(const PixelRows& rows) override;
 
 private:
-    static int Read(GifFileType* file, GifByteType* to, int count);
-    bool ReadExtension();
-    bool ReadFrameHeader();
-    void FillColours();
-    bool DecodeLine(const PixelRows& rows, int32_t y);
+    void SetForm();
+    bool Covers() const;
+    bool Draw(const PixelRows& rows);
+    void Clear(const PixelRows& rows) const;
+    std::vector<uint8_t> Keep(const PixelRows& rows) const;
+    void Restore(const PixelRows& rows, const std::vector<uint8_t>& kept) const;
+    /// The part of the picture that lies on the canvas.
+    int32_t VisibleWidth() const { return std::min(frame_.width, header_.width - frame_.left); }
+    int32_t VisibleHeight() const { return std::min(frame_.height, header_.height - frame_.top); }
 
-    const GifImageDesc& Frame() const { return file_->Image; }
-
-    Bytes rest_;
-    GifFileType* file_ = nullptr;
-    int transparent_ = NO_TRANSPARENT_COLOR;
-    std::array<uint32_t, 256> colours_{};
-    std::vector<GifByteType> line_;
+    GifReader reader_;
+    GifFrame frame_;
+    const int skipped_;
+    size_t outside_ = 0;  ///< the index of the canvas around the picture
 };
 
-int GifDecoder::Read(GifFileType* file, GifByteType* to, int count) {
-    auto* self = static_cast<GifDecoder*>(file->UserData);
-    const size_t size = std::min(static_cast<size_t>(count), self->rest_.size());
-    std::copy_n(self->rest_.begin(), size, to);
-    self->rest_ = self->rest_.subspan(size);
-    return static_cast<int>(size);
-}
-
-bool GifDecoder::ReadExtension() {
-    int code = 0;
-    GifByteType* block = nullptr;
-    if (DGifGetExtension(file_, &code, &block) == GIF_ERROR) return false;
-    while (block) {
-        GraphicsControlBlock control;
-        if (code == GRAPHICS_EXT_FUNC_CODE &&
-            DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK) {
-            transparent_ = control.TransparentColor;
-        }
-        if (DGifGetExtensionNext(file_, &block) == GIF_ERROR) return false;
-    }
-    return true;
-}
-
-// A canvas of size 0 is as large as its first frame needs.
-bool GifDecoder::ReadFrameHeader() {
-    if (DGifGetImageDesc(file_) == GIF_ERROR) return false;
-    header_.width = file_->SWidth ? file_->SWidth : Frame().Left + Frame().Width;
-    header_.height = file_->SHeight ? file_->SHeight : Frame().Top + Frame().Height;
-    const bool covered = Frame().Left == 0 && Frame().Top == 0 && Frame().Width >= header_.width &&
-                         Frame().Height >= header_.height;
-    header_.hasAlpha = !covered || transparent_ != NO_TRANSPARENT_COLOR;
-    return ApartmentDecodeLimits().Allow(Frame().Width, Frame().Height);
-}
-
+// A canvas of size 0 is as large as its first picture needs.
 bool GifDecoder::ReadHeader() {
-    GifRecordType record = UNDEFINED_RECORD_TYPE;
-    while (file_ && DGifGetRecordType(file_, &record) == GIF_OK) {
-        if (record == IMAGE_DESC_RECORD_TYPE) return ReadFrameHeader();
-        if (record != EXTENSION_RECORD_TYPE || !ReadExtension()) return false;
-    }
-    return false;
-}
-
-// Indexes without a colour are black.
-void GifDecoder::FillColours() {
-    colours_.fill(0xFF000000);
-    const ColorMapObject* map = Frame().ColorMap ? Frame().ColorMap : file_->SColorMap;
-    for (int i = 0; map && i < map->ColorCount; ++i) {
-        const GifColorType& colour = map->Colors[i];
-        colours_[static_cast<size_t>(i)] = 0xFF000000u | static_cast<uint32_t>(colour.Red) << 16 |
-                                           static_cast<uint32_t>(colour.Green) << 8 | colour.Blue;
-    }
-    if (transparent_ != NO_TRANSPARENT_COLOR) {
-        colours_[static_cast<size_t>(transparent_)] &= 0xFFFFFF;
-    }
-}
-
-// The whole line is unpacked, and what lies on the canvas is kept.
-bool GifDecoder::DecodeLine(const PixelRows& rows, int32_t y) {
-    if (DGifGetLine(file_, line_.data(), Frame().Width) == GIF_ERROR) return false;
-    const int32_t row = Frame().Top + y;
-    const int32_t count = std::min(Frame().Width, header_.width - Frame().Left);
-    if (row >= header_.height || count <= 0) return true;
-    uint8_t* to = rows.Row(row) + 4 * static_cast<ptrdiff_t>(Frame().Left);
-    for (int32_t x = 0; x < count; ++x, to += 4) {
-        std::memcpy(to, &colours_[line_[static_cast<size_t>(x)]], 4);
-    }
+    if (!reader_.Next(&frame_)) return false;
+    header_.width = reader_.Width() ? reader_.Width() : frame_.left + frame_.width;
+    header_.height = reader_.Height() ? reader_.Height() : frame_.top + frame_.height;
+    SetForm();
     return true;
+}
+
+bool GifDecoder::Covers() const {
+    return frame_.left == 0 && frame_.top == 0 && frame_.width >= header_.width &&
+           frame_.height >= header_.height;
+}
+
+// Around the picture the canvas is clear, for which an index must be free.
+void GifDecoder::SetForm() {
+    const bool transparent = frame_.transparent != NO_TRANSPARENT_COLOR;
+    header_.hasAlpha = skipped_ || !Covers() || transparent;
+    std::vector<uint32_t> colors = frame_.colors;
+    outside_ = transparent ? static_cast<size_t>(frame_.transparent) : colors.size();
+    if (skipped_ || (!Covers() && outside_ == kMostColors)) return;
+    if (header_.hasAlpha && outside_ >= colors.size()) {
+        colors.resize(outside_ + 1, 0xFF000000);
+        colors[outside_] = 0;
+    }
+    header_.SetIndexed(8, std::move(colors));
+}
+
+bool GifDecoder::DecodeIndexes(const PixelRows& rows) {
+    const auto width = static_cast<size_t>(header_.width);
+    for (int32_t y = 0; y < header_.height; ++y) {
+        std::memset(rows.Row(y), static_cast<int>(outside_), width);
+    }
+    return reader_.ReadLines(frame_, [&](int32_t y, Bytes indexes) {
+        if (y >= VisibleHeight() || VisibleWidth() <= 0) return;
+        std::copy_n(indexes.begin(), VisibleWidth(), rows.Row(frame_.top + y) + frame_.left);
+    });
+}
+
+// Draws the current picture over what is there, through its transparent colour; on the empty
+// canvas that keeps what it is made of.
+bool GifDecoder::Draw(const PixelRows& rows) {
+    std::vector<uint32_t> colors = frame_.colors;
+    colors.resize(kMostColors, 0xFF000000);
+    if (frame_.transparent >= 0) colors[static_cast<size_t>(frame_.transparent)] &= 0xFFFFFF;
+    return reader_.ReadLines(frame_, [&](int32_t y, Bytes indexes) {
+        if (y >= VisibleHeight()) return;
+        uint8_t* to = rows.Row(frame_.top + y) + 4 * static_cast<ptrdiff_t>(frame_.left);
+        for (int32_t x = 0; x < VisibleWidth(); ++x, to += 4) {
+            const uint8_t index = indexes[static_cast<size_t>(x)];
+            if (index != frame_.transparent || !skipped_) std::memcpy(to, &colors[index], 4);
+        }
+    });
+}
+
+void GifDecoder::Clear(const PixelRows& rows) const {
+    for (int32_t y = 0; y < VisibleHeight() && VisibleWidth() > 0; ++y) {
+        std::memset(rows.Row(frame_.top + y) + 4 * static_cast<ptrdiff_t>(frame_.left), 0,
+                    static_cast<size_t>(VisibleWidth()) * 4);
+    }
+}
+
+std::vector<uint8_t> GifDecoder::Keep(const PixelRows& rows) const {
+    std::vector<uint8_t> kept;
+    for (int32_t y = 0; y < header_.height; ++y) {
+        kept.insert(kept.end(), rows.Row(y),
+                    rows.Row(y) + 4 * static_cast<ptrdiff_t>(header_.width));
+    }
+    return kept;
+}
+
+void GifDecoder::Restore(const PixelRows& rows, const std::vector<uint8_t>& kept) const {
+    const size_t size = static_cast<size_t>(header_.width) * 4;
+    for (int32_t y = 0; y < header_.height; ++y) {
+        std::memcpy(rows.Row(y), &kept[static_cast<size_t>(y) * size], size);
+    }
 }
 
 bool GifDecoder::Decode(const PixelRows& rows) {
     for (int32_t y = 0; y < header_.height; ++y) {
         std::memset(rows.Row(y), 0, static_cast<size_t>(header_.width) * 4);
     }
-    FillColours();
-    line_.resize(static_cast<size_t>(Frame().Width));
-    struct Pass {
-        int32_t first, step;
-    };
-    static constexpr Pass kWhole[] = {{0, 1}};
-    static constexpr Pass kInterlaced[] = {{0, 8}, {4, 8}, {2, 4}, {1, 2}};
-    for (const Pass& pass :
-         Frame().Interlace ? std::span<const Pass>(kInterlaced) : std::span<const Pass>(kWhole)) {
-        for (int32_t y = pass.first; y < Frame().Height; y += pass.step) {
-            if (!DecodeLine(rows, y)) return false;
-        }
+    for (int frame = 0; frame < skipped_; ++frame) {
+        const bool previous = frame_.disposal == DISPOSE_PREVIOUS;
+        const std::vector<uint8_t> kept = previous ? Keep(rows) : std::vector<uint8_t>();
+        if (!Draw(rows)) return false;
+        if (previous) Restore(rows, kept);
+        if (frame_.disposal == DISPOSE_BACKGROUND) Clear(rows);
+        if (!reader_.Next(&frame_)) return false;
     }
-    return true;
+    return Draw(rows);
 }
 
 }  // namespace
@@ -134,8 +137,14 @@ bool IsGif(Bytes bytes) {
                                  std::memcmp(bytes.data(), "GIF89a", 6) == 0);
 }
 
-std::unique_ptr<ImageDecoder> OpenGif(Bytes bytes) {
-    return OpenWithin(std::make_unique<GifDecoder>(bytes));
+std::unique_ptr<ImageDecoder> OpenGif(Bytes bytes) { return OpenGifFrame(bytes, 0); }
+
+std::unique_ptr<ImageDecoder> OpenGifFrame(Bytes bytes, int frame) {
+    return OpenWithin(std::make_unique<GifDecoder>(bytes, frame));
+}
+
+int GifFrameCount(Bytes bytes) {
+    return std::clamp(static_cast<int>(ReadGifBlocks(bytes).delays.size()), 1, 65535);
 }
 
 }  // namespace vxgui::codecs

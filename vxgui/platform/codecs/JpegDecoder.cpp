@@ -57,6 +57,7 @@ public:
 
     bool ReadHeader();
     bool Decode(const PixelRows& rows) override;
+    bool DecodeIndexes(const PixelRows& rows) override;
 
 private:
     // The library reports an error by a jump back to here. No object with a destructor may live
@@ -67,6 +68,9 @@ private:
         step();
         return true;
     }
+
+    void SetForm();
+    bool ReadRows(J_COLOR_SPACE space, const PixelRows& rows);
 
     bool HasFourInks() const {
         return info_.jpeg_color_space == JCS_CMYK || info_.jpeg_color_space == JCS_YCCK;
@@ -96,21 +100,46 @@ bool JpegDecoder::ReadHeader() {
     if (!read) return false;
     header_.width = static_cast<int32_t>(info_.image_width);
     header_.height = static_cast<int32_t>(info_.image_height);
+    SetForm();
     return true;
 }
 
-bool JpegDecoder::Decode(const PixelRows& rows) {
+void JpegDecoder::SetForm() {
+    constexpr double kCentimetresInAnInch = 2.54;
+    constexpr int kPerInch = 1, kPerCentimetre = 2;
+    const double unit = info_.density_unit == kPerInch         ? 1
+                        : info_.density_unit == kPerCentimetre ? kCentimetresInAnInch
+                                                               : 0;
+    if (info_.saw_JFIF_marker) {
+        header_.dpiX = info_.X_density * unit;
+        header_.dpiY = info_.Y_density * unit;
+    }
+    header_.form = PixelForm::Bgr24;
+    if (info_.jpeg_color_space == JCS_CMYK) header_.space = ColorSpace::Cmyk;
+    if (info_.jpeg_color_space == JCS_YCCK) header_.space = ColorSpace::Ycck;
+    if (info_.jpeg_color_space != JCS_GRAYSCALE) return;
+    header_.space = ColorSpace::Gray;
+    header_.SetIndexed(8, GrayShades(256));
+}
+
+bool JpegDecoder::ReadRows(J_COLOR_SPACE space, const PixelRows& rows) {
     return Guarded([&] {
-        info_.out_color_space = HasFourInks() ? JCS_CMYK : JCS_EXT_BGRA;
+        info_.out_color_space = space;
         jpeg_start_decompress(&info_);
         while (info_.output_scanline < info_.output_height) {
             uint8_t* row = rows.Row(static_cast<int32_t>(info_.output_scanline));
             jpeg_read_scanlines(&info_, &row, 1);
-            if (HasFourInks()) BgraFromCmyk(row, header_.width, info_.saw_Adobe_marker);
+            if (space == JCS_CMYK) BgraFromCmyk(row, header_.width, info_.saw_Adobe_marker);
         }
         jpeg_finish_decompress(&info_);
     });
 }
+
+bool JpegDecoder::Decode(const PixelRows& rows) {
+    return ReadRows(HasFourInks() ? JCS_CMYK : JCS_EXT_BGRA, rows);
+}
+
+bool JpegDecoder::DecodeIndexes(const PixelRows& rows) { return ReadRows(JCS_GRAYSCALE, rows); }
 
 }  // namespace
 

@@ -4,7 +4,6 @@
 #include <optional>
 #include <span>
 
-#include "vxgui/base/Variant.h"
 #include "vxgui/platform/gdiplus/Image.h"
 #include "vxgui/platform/gdiplus/bitmap/Palette.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelMemory.h"
@@ -80,8 +79,5 @@ private:
     Palette palette_;
     std::optional<HeldLock> lock_;
 };
-
-/// The first frame of a picture file in memory, or none.
-Ref<Bitmap> DecodeBitmap(const ByteArray& bytes);
 
 }  // namespace vxgui::gdiplus

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstring>
 
-#include "vxgui/platform/codecs/ImageDecoder.h"
 #include "vxgui/platform/gdiplus/Premultiply.h"
 #include "vxgui/platform/gdiplus/bitmap/CopyPixels.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
@@ -46,6 +45,9 @@ Ref<Bitmap> Bitmap::Copy() const {
     Ref<Bitmap> copy = CopyArea(Bounds(), memory_.format);
     copy->rawFormat = rawFormat;
     copy->fileFlags = fileFlags;
+    copy->properties = properties;
+    copy->file = file;
+    copy->frameCount = frameCount;
     return copy;
 }
 
@@ -101,14 +103,6 @@ void Bitmap::WritePremultiplied(INT x, INT y, std::span<const ARGB> from) {
         }
         from = from.subspan(next.size());
     }
-}
-
-Ref<Bitmap> DecodeBitmap(const ByteArray& bytes) {
-    const std::unique_ptr<codecs::ImageDecoder> decoder = codecs::OpenImage(bytes);
-    if (!decoder) return nullptr;
-    Ref<Bitmap> bitmap =
-        Bitmap::Create(decoder->Header().width, decoder->Header().height, PixelFormat32bppARGB);
-    return decoder->Decode({bitmap->Row(0), bitmap->Stride()}) ? bitmap : nullptr;
 }
 
 }  // namespace vxgui::gdiplus

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "vxgui/platform/codecs/ImageDecoder.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
 #include "vxgui/platform/gdiplus/bitmap/StandardColors.h"
 
@@ -46,13 +47,7 @@ Palette DefaultPalette(PixelFormat format) {
     }
 }
 
-Palette GrayPalette(size_t count) {
-    Palette palette{PaletteFlagsGrayScale, std::vector<ARGB>(count)};
-    for (size_t i = 0; i < count; ++i) {
-        palette.entries[i] = 0xFF000000 | static_cast<ARGB>(i * 255 / (count - 1)) * 0x010101;
-    }
-    return palette;
-}
+Palette GrayPalette(size_t count) { return {PaletteFlagsGrayScale, codecs::GrayShades(count)}; }
 
 UINT PaletteFlagsOf(std::span<const ARGB> entries) {
     UINT flags = 0;

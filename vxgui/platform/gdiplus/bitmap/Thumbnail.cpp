@@ -6,6 +6,8 @@
 #include <memory>
 #include <new>
 
+#include "vxgui/platform/gdiplus/codec/ImageLoader.h"
+
 namespace vxgui::gdiplus {
 namespace {
 
@@ -40,15 +42,24 @@ Surface SurfaceOf(Bitmap& bitmap) {
     return surface;
 }
 
+// The small picture that a camera stored along, or none.
+Ref<Bitmap> StoredThumbnail(const Bitmap& bitmap) {
+    const auto at =
+        std::ranges::find(bitmap.properties, codecs::kThumbnailData, &codecs::ImageProperty::id);
+    return at == bitmap.properties.end() ? nullptr : LoadBitmap(at->value);
+}
+
 }  // namespace
 
 Ref<Bitmap> Thumbnail(const Bitmap& bitmap, UINT width, UINT height) {
     const GpPoint size = SizeOf(bitmap, width, height);
-    const Ref<Bitmap> source = bitmap.CopyArea(bitmap.Bounds(), PixelFormat32bppPARGB);
+    const Ref<Bitmap> stored = StoredThumbnail(bitmap);
+    const Bitmap& shown = stored ? *stored : bitmap;
+    const Ref<Bitmap> source = shown.CopyArea(shown.Bounds(), PixelFormat32bppPARGB);
     Ref<Bitmap> result = Bitmap::Create(size.X, size.Y, PixelFormat32bppPARGB);
     const Surface from = SurfaceOf(*source), to = SurfaceOf(*result);
     const Context context(cairo_create(to.get()));
-    cairo_scale(context.get(), double(size.X) / bitmap.Width(), double(size.Y) / bitmap.Height());
+    cairo_scale(context.get(), double(size.X) / shown.Width(), double(size.Y) / shown.Height());
     cairo_set_source_surface(context.get(), from.get(), 0, 0);
     cairo_pattern_set_extend(cairo_get_source(context.get()), CAIRO_EXTEND_PAD);
     cairo_pattern_set_filter(cairo_get_source(context.get()), CAIRO_FILTER_GOOD);

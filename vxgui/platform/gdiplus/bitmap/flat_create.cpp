@@ -2,6 +2,7 @@
 #include "vxgui/platform/gdiplus/FlatAccess.h"
 #include "vxgui/platform/gdiplus/Graphics.h"
 #include "vxgui/platform/gdiplus/bitmap/DibFile.h"
+#include "vxgui/platform/gdiplus/codec/ImageLoader.h"
 #include "vxgui/platform/gdiplus_images.h"
 #include "vxgui/platform/kernel.h"
 
@@ -42,7 +43,7 @@ GpStatus GdipCreateBitmapFromResource(kernel::HMODULE module, const WCHAR* name,
         if (!name) return InvalidParameter;
         const kernel::ResourceBlock block =
             kernel::FindModuleResource(module, kBitmapType, ResourceName(name));
-        Ref<Bitmap> made = DecodeBitmap(FileOfDib({block.data, block.size}));
+        Ref<Bitmap> made = LoadBitmap(FileOfDib({block.data, block.size}));
         return made ? HandOut(bitmap, std::move(made)) : InvalidParameter;
     });
 }
