@@ -1,0 +1,147 @@
+#include "vxgui/gdip/GpBitmap.h"
+
+#include <limits>
+
+#include "vxgui/frame/PictureHelpers.h"
+#include "vxgui/platform/gdi_dib.h"
+
+namespace vxgui {
+
+void GpBitmap::SetHandle(gdiplus::GpBitmap*& handle) {
+    const Ref<GpImage> kept = image_;
+    gdiplus::GpBitmap* const adopted = handle;
+    Dispose();
+    image_ = kept;
+    handle_ = adopted;
+}
+
+// With an image at hand the own handle isn't deleted, which is meant.
+void GpBitmap::Dispose() {
+    if (!image_) return GpOwner::Dispose();
+    image_ = nullptr;
+    handle_ = nullptr;
+}
+
+Ref<GpImage> GpBitmap::Image() {
+    const KeepAlive keep(this);
+    if (image_) return image_;
+    gdiplus::GpImage* clone = nullptr;
+    if (!Check(flat::GdipCloneImage(AsImage(), &clone)) || !clone) return nullptr;
+    image_ = New<GpImage>();
+    image_->SetHandle(clone);
+    return image_;
+}
+
+Ref<GpBitmap> GpBitmap::Clone(int32_t X, int32_t Y, int32_t& Width, int32_t& Height,
+                              gdiplus::PixelFormat PixelFormat) {
+    const KeepAlive keep(this);
+    if (Width <= 0) Width = this->Width();
+    if (Height <= 0) Height = this->Height();
+    gdiplus::GpBitmap* clone = nullptr;
+    const bool made = Check(flat::GdipCloneBitmapArea(
+        static_cast<float>(X), static_cast<float>(Y), static_cast<float>(Width),
+        static_cast<float>(Height), PixelFormat, handle_, &clone));
+    return made ? Adopted(clone) : nullptr;
+}
+
+gdiplus::GpBitmap* GpBitmap::AdoptedHandle(gdiplus::Status status, gdiplus::GpBitmap*& made) {
+    return Adopt(status, made) ? handle_ : nullptr;
+}
+
+bool GpBitmap::Create(int32_t Width, int32_t Height, gdi::HDC) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    if (flat::GdipCreateBitmapFromScan0(Width, Height, 0, gdiplus::PixelFormat32bppARGB, nullptr,
+                                        &bitmap) == gdiplus::Ok) {
+        return Adopt(gdiplus::Ok, bitmap);
+    }
+    // Memory of our own instead. What no bitmap can have gets none, and the call below refuses it.
+    const gdi::BITMAPINFO info = gdi::DibInfo(Width, Height);
+    const int64_t pixels = int64_t{Width} * Height;
+    const bool possible =
+        Width > 0 && Height > 0 && pixels <= std::numeric_limits<int32_t>::max() / 4;
+    std::vector<uint32_t> store(possible ? static_cast<size_t>(pixels) + 1 : 0);
+    const gdiplus::Status status =
+        flat::GdipCreateBitmapFromGdiDib(&info, possible ? store.data() : nullptr, &bitmap);
+    if (!Adopt(status, bitmap)) return false;
+    store_ = std::move(store);
+    return true;
+}
+
+gdiplus::GpBitmap* GpBitmap::FromFile(const String& Filename, bool UseEmbeddedColorManagement) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return AdoptedHandle(UseEmbeddedColorManagement
+                             ? flat::GdipCreateBitmapFromFileICM(Filename.data(), &bitmap)
+                             : flat::GdipCreateBitmapFromFile(Filename.data(), &bitmap),
+                         bitmap);
+}
+
+gdiplus::GpBitmap* GpBitmap::FromStream(gdiplus::IStream* Stream, bool UseEmbeddedColorManagement) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return AdoptedHandle(UseEmbeddedColorManagement
+                             ? flat::GdipCreateBitmapFromStreamICM(Stream, &bitmap)
+                             : flat::GdipCreateBitmapFromStream(Stream, &bitmap),
+                         bitmap);
+}
+
+gdiplus::GpBitmap* GpBitmap::FromMemAddr(const void* lpBits, int32_t nSize,
+                                         bool UseEmbeddedColorManagement) {
+    const Ref<ole::IStream> stream = MemoryToStream(lpBits, nSize);
+    return stream ? FromStream(stream.get(), UseEmbeddedColorManagement) : nullptr;
+}
+
+gdiplus::GpBitmap* GpBitmap::FromByteArray(const ByteArray& Bytes,
+                                           bool UseEmbeddedColorManagement) {
+    if (Bytes.empty() || Bytes.size() > std::numeric_limits<int32_t>::max()) return nullptr;
+    return FromMemAddr(Bytes.data(), static_cast<int32_t>(Bytes.size()),
+                       UseEmbeddedColorManagement);
+}
+
+bool GpBitmap::FromScan0(int32_t Width, int32_t Height, int32_t Stride,
+                         gdiplus::PixelFormat PixelFormat, BYTE* Scan0) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(
+        flat::GdipCreateBitmapFromScan0(Width, Height, Stride, PixelFormat, Scan0, &bitmap),
+        bitmap);
+}
+
+bool GpBitmap::FromGraphics(int32_t Width, int32_t Height, gdiplus::GpGraphics* hGraphics) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromGraphics(Width, Height, hGraphics, &bitmap), bitmap);
+}
+
+bool GpBitmap::FromDirectDrawSurface7(void* Surface) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromDirectDrawSurface(Surface, &bitmap), bitmap);
+}
+
+bool GpBitmap::FromGdiDib(const gdi::BITMAPINFO* GdiBitmapInfo, void* GdiBitmapData) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromGdiDib(GdiBitmapInfo, GdiBitmapData, &bitmap), bitmap);
+}
+
+bool GpBitmap::FromHBITMAP(gdi::HBITMAP hBitmap, gdi::HPALETTE hPalette) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromHBITMAP(hBitmap, hPalette, &bitmap), bitmap);
+}
+
+bool GpBitmap::FromHICON(gdi::HICON hIcon) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromHICON(hIcon, &bitmap), bitmap);
+}
+
+bool GpBitmap::FromResource(kernel::HMODULE hInstance, const String& BitmapName) {
+    const KeepAlive keep(this);
+    gdiplus::GpBitmap* bitmap = nullptr;
+    return Adopt(flat::GdipCreateBitmapFromResource(hInstance, BitmapName.data(), &bitmap), bitmap);
+}
+
+}  // namespace vxgui
