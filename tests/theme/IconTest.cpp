@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/GdiplusSession.h"
 #include "tests/text/TextCanvas.h"
 #include "tests/theme/RecordingSurface.h"
+#include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/surface/Himetric.h"
 #include "vxgui/theme/ThemeItem.h"
 
@@ -212,6 +214,34 @@ TEST(MenuArrow, IsThreeTrianglesOnMagenta) {
     EXPECT_EQ(image->TransparentColor(), 1);
     EXPECT_EQ(arrow->StateFrame(E_ItemStateMouseOver), 1);
     EXPECT_EQ(arrow->StateFrame(E_ItemStatePressed), 2);
+}
+
+// Red where it is drawn; by the image and by the bitmap that has it.
+TEST(Icon, ImagesAndBitmapsAreScaledToTheirPlace) {
+    const test::GdiplusSession session;
+    const Ref<GpBitmap> bitmap = New<GpBitmap>();
+    ASSERT_TRUE(bitmap->Create(4, 2));
+    for (int32_t i = 0; i < 8; ++i) bitmap->SetPixel(i % 4, i / 4, 0xFFFF0000);
+    for (const Ref<Object>& icon : {Ref<Object>(bitmap), Ref<Object>(bitmap->Image())}) {
+        for (const int32_t size : {0, 8}) {
+            const Ref<ThemeItem> item = New<ThemeItem>();
+            item->IconWidth(size);
+            item->IconAlign(0);
+            const Ref<cAlphaDIBSection> canvas = New<cAlphaDIBSection>();
+            ASSERT_TRUE(canvas->Create(20, 20));
+            int32_t right = 20, bottom = 20;
+            EXPECT_EQ(item->DrawIcon(canvas->hDC(), icon, 0, -1, 3, 5, right, bottom), 0);
+            const auto red = [&](int32_t x, int32_t y) {
+                return (canvas->GetPixel(x, y) & 0xFF0000) == 0xFF0000;
+            };
+            const int32_t width = size ? size : 4, height = size ? size : 2;
+            EXPECT_TRUE(red(4, 6));
+            EXPECT_TRUE(red(3 + width - 2, 5 + height - 1)) << size;
+            EXPECT_FALSE(red(3 + width + 1, 5)) << size;
+            EXPECT_FALSE(red(3, 5 + height + 1)) << size;
+            EXPECT_FALSE(red(2, 5));
+        }
+    }
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ namespace vxgui {
 namespace gdiplus {
 class GpBitmap;
 }
+class GpBitmap;
 class IColorAdjust;
 
 enum AlphaDIBSectionConst : int32_t {
@@ -87,6 +88,9 @@ public:
     /// the picture stands on its head, and the pixels are straight.
     virtual bool FromHGpBitmap(gdiplus::GpBitmap* hGpBitmap, int32_t X = 0, int32_t Y = 0,
                                int32_t w = -1, int32_t h = -1);
+    /// The same of the object; raises for none.
+    virtual bool FromGpBitmap(const Ref<GpBitmap>& GpBmp, int32_t X = 0, int32_t Y = 0,
+                              int32_t w = -1, int32_t h = -1);
     /// The copy starts at the bottom row of `Src`; `Y` is checked and otherwise not used.
     virtual bool FromAlphaDIBSection(const Ref<cAlphaDIBSection>& Src, int32_t X, int32_t Y,
                                      int32_t Width, const int32_t& Height);

@@ -1,7 +1,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "vxgui/frame/modGdiplus.h"
+#include "vxgui/base/Error.h"
+#include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/surface/Stretch.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
@@ -40,6 +41,14 @@ bool cAlphaDIBSection::FromHGpBitmap(gdiplus::GpBitmap* hGpBitmap, int32_t X, in
     }
     flat::GdipBitmapUnlockBits(hGpBitmap, &locked);
     return true;
+}
+
+bool cAlphaDIBSection::FromGpBitmap(const Ref<GpBitmap>& GpBmp, int32_t X, int32_t Y, int32_t w,
+                                    int32_t h) {
+    if (!GpBmp) {
+        throw Error(ErrorNumber::ObjectNotSet, "cAlphaDIBSection.FromGpBitmap", "Object not set");
+    }
+    return FromHGpBitmap(GpBmp->Handle(), X, Y, w, h);
 }
 
 }  // namespace vxgui

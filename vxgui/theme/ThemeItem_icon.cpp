@@ -1,4 +1,6 @@
 #include "vxgui/base/Rounding.h"
+#include "vxgui/gdip/GpBitmap.h"
+#include "vxgui/gdip/GpGraphics.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/surface/Himetric.h"
 #include "vxgui/theme/RectLayout.h"
@@ -16,9 +18,30 @@ constexpr int32_t kCopyIcon = 3;
 struct ClassifiedIcon {
     ole::Picture* picture = nullptr;
     cAlphaDIBSection* surface = nullptr;
+    Ref<GpImage> image;
     int32_t width = 0;
     int32_t height = 0;
 };
+
+// A bitmap is painted by way of its image.
+bool ClassifyImage(Object* object, ClassifiedIcon& icon) {
+    icon.image = Ref<GpImage>(dynamic_cast<GpImage*>(object));
+    auto* const bitmap = dynamic_cast<GpBitmap*>(object);
+    if (bitmap) icon.image = bitmap->Image();
+    if (icon.image) {
+        icon.width = icon.image->Width();
+        icon.height = icon.image->Height();
+    }
+    return icon.image || bitmap;
+}
+
+// The source sizes of -1 mean the whole image.
+void PaintIconImage(gdi::HDC dc, GpImage& image, Span x, Span y) {
+    const Ref<GpGraphics> graphics = New<GpGraphics>();
+    graphics->FromHDC(dc);
+    graphics->DrawBitmap(reinterpret_cast<gdiplus::GpBitmap*>(image.Handle()), x.start, y.start,
+                         x.size, y.size, 0, 0, -1, -1, gdiplus::UnitPixel);
+}
 
 // False for an object of no kind that can be painted.
 bool Classify(gdi::HDC dc, Object* object, ClassifiedIcon& icon) {
@@ -31,8 +54,10 @@ bool Classify(gdi::HDC dc, Object* object, ClassifiedIcon& icon) {
     } else if (icon.surface) {
         icon.width = icon.surface->Width();
         icon.height = icon.surface->Height();
+    } else {
+        return ClassifyImage(object, icon);
     }
-    return icon.picture || icon.surface;
+    return true;
 }
 
 Span Between(int32_t start, int32_t end) { return {start, WrapSub(end, start)}; }
@@ -59,6 +84,8 @@ int32_t ThemeItem::DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t, int
                              WrapSub(0, high));
     } else if (icon.surface) {
         PaintIconSurface(hDC, *icon.surface, x, y);
+    } else if (icon.image) {
+        PaintIconImage(hDC, *icon.image, x, y);
     }
     return 0;
 }
