@@ -125,8 +125,26 @@ TEST_F(DeviceBitmaps, AnIconsMaskMakesClear) {
 TEST_F(DeviceBitmaps, ThereAreNoDrawingSurfacesOfAnotherKind) {
     GpBitmap* bitmap = nullptr;
     int surface = 0;
-    EXPECT_EQ(GdipCreateBitmapFromDirectDrawSurface(&surface, &bitmap), NotImplemented);
+    const GpStatus status = GdipCreateBitmapFromDirectDrawSurface(&surface, &bitmap);
+    EXPECT_EQ(status, NotImplemented);
+    EXPECT_EQ(bitmap, nullptr);
     EXPECT_EQ(GdipCreateBitmapFromDirectDrawSurface(nullptr, &bitmap), InvalidParameter);
+}
+
+TEST_F(DeviceBitmaps, AGraphicsGivesItsResolution) {
+    GpBitmap* target = Make(2, 2, PixelFormat32bppARGB);
+    GdipBitmapSetResolution(target, 30, 40);
+    GpGraphics* graphics = nullptr;
+    ASSERT_EQ(GdipGetImageGraphicsContext(AsImage(target), &graphics), Ok);
+    GpBitmap* bitmap = nullptr;
+    ASSERT_EQ(GdipCreateBitmapFromGraphics(5, 4, graphics, &bitmap), Ok);
+    REAL dpi = 0;
+    GdipGetImageVerticalResolution(AsImage(Keep(bitmap)), &dpi);
+    EXPECT_EQ(dpi, 40);
+    EXPECT_EQ(FormatOf(bitmap), PixelFormat32bppPARGB);
+    EXPECT_EQ(GdipCreateBitmapFromGraphics(0, 4, graphics, &bitmap), InvalidParameter);
+    EXPECT_EQ(GdipCreateBitmapFromGraphics(5, 4, nullptr, &bitmap), InvalidParameter);
+    GdipDeleteGraphics(graphics);
 }
 
 TEST_F(DeviceBitmaps, AResourceIsFoundByNameAndNumber) {
