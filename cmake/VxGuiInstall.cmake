@@ -6,7 +6,7 @@ install(TARGETS vxgui vxplatform EXPORT VxGuiTargets
 install(DIRECTORY vxgui/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vxgui
         FILES_MATCHING PATTERN "*.h"
         PATTERN "codecs" EXCLUDE PATTERN "gdi" EXCLUDE PATTERN "gdiplus" EXCLUDE PATTERN "ole" EXCLUDE
-        PATTERN "core7" EXCLUDE PATTERN "corehlp" EXCLUDE PATTERN "kernel" EXCLUDE)
+        PATTERN "qt6" EXCLUDE PATTERN "forms" EXCLUDE PATTERN "core7" EXCLUDE PATTERN "corehlp" EXCLUDE PATTERN "kernel" EXCLUDE)
 install(EXPORT VxGuiTargets NAMESPACE VxGui:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui)
 
 configure_package_config_file(cmake/VxGuiConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfig.cmake
