@@ -134,6 +134,16 @@ TEST_F(BlurredShadow, BrushesDontFollowTheFields) {
     EXPECT_EQ(style->Clone()->TextBrush()->GetColor(), 0xFF000000u) << "a clone makes its own";
 }
 
+TEST_F(BlurredShadow, ThePenDoesntFollowTheFieldsEither) {
+    const Ref<TextStyle> style = StyleOf(3, 1);
+    const Ref<GpPen> pen = style->ShadowPen();
+    EXPECT_EQ(pen->Color(), 0xFFFF0000u);
+    EXPECT_EQ(pen->Width(), 6);
+    EXPECT_EQ(pen->Unit(), gdiplus::UnitPixel);
+    style->ShadowX = 9;
+    EXPECT_EQ(style->ShadowPen(), pen);
+}
+
 TEST_F(BlurredShadow, AFontThatIsMissingIsReplacedInTheCallersVariable) {
     TextCanvas canvas(160, 60);
     Ref<LFont> none;

@@ -6,6 +6,13 @@
 
 namespace vxgui {
 
+class GpBrush;
+class GpColor;
+class GpFont;
+class GpGraphics;
+class GpPen;
+class GpStringFormat;
+
 /// The library's global object: operations that a host can call without making anything. It has
 /// no state of its own.
 class VXGUI_API VxGuiGlobal : public Object {
@@ -93,6 +100,24 @@ public:
     /// height of all lines.
     int32_t DrawJustifiedText(gdi::HDC hDC, const String& Text, int32_t nCount,
                               const gdi::RECT* lpRect, int32_t Align);
+
+    /// Draws text as filled outlines with a stroke around them, at a point. What is left out is
+    /// taken from the graphics' context: the font, of 20 points at least, the colour of the text,
+    /// and its complement for the pen. The graphics keeps its best modes. Answers 0.
+    int32_t DrawOutLineText(const Ref<GpGraphics>& graphics, const String& Text, int32_t X,
+                            int32_t Y, const Ref<GpFont>& Font = nullptr,
+                            const Ref<GpBrush>& TextBrush = nullptr,
+                            const Ref<GpPen>& OutLinePen = nullptr,
+                            const Ref<GpStringFormat>& StringFormat = nullptr);
+    /// Draws text with a soft shadow, black without a colour. Font and text colour are the
+    /// context's where they are left out. Failures are shown to the user. Answers 0.
+    int32_t GpDrawShadowText(const Ref<GpGraphics>& graphics, const String& Text,
+                             const gdiplus::GpRectF& pRect,
+                             const Ref<GpColor>& ShadowColor = nullptr, int32_t ShadowX = 4,
+                             int32_t ShadowY = 5, int32_t ixOffset = 2, int32_t iyOffset = 2,
+                             const Ref<GpFont>& Font = nullptr,
+                             const Ref<GpStringFormat>& StringFormat = nullptr,
+                             const Ref<GpBrush>& TextBrush = nullptr);
 
     /// A command and its three operands; a failure inside is ignored, and leaves the result
     /// empty, as an unknown command does.

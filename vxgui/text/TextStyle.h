@@ -7,6 +7,7 @@
 #include "vxgui/base/String.h"
 #include "vxgui/gdip/GpBrush.h"
 #include "vxgui/gdip/GpGraphics.h"
+#include "vxgui/gdip/GpPen.h"
 #include "vxgui/gdip/GpStringFormat.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_text.h"
@@ -79,6 +80,8 @@ public:
     /// The brushes of the two colours, made on first use. Once made they don't follow the fields.
     Ref<GpBrush> TextBrush();
     Ref<GpBrush> ShadowBrush();
+    /// A pen of the shadow's colour, twice `ShadowX` wide, the same way.
+    Ref<GpPen> ShadowPen();
 
     /// The shadow takes part only with a draw style above 0. Nothing is brought into range.
     void ReadProperties(const Ref<ole::PropertyBag>& propBag);
@@ -119,6 +122,7 @@ private:
     Ref<GpGraphics> mGraphics;
     Ref<GpStringFormat> mStringFormat;
     Ref<class LFont> mFont;  ///< of the last drawing
+    Ref<GpPen> mShadowPen;
     Ref<GpBrush> mTextBrush;
     Ref<GpBrush> mShadowBrush;
     Ref<cAlphaDIBSection> mSurface;

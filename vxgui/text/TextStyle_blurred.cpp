@@ -28,6 +28,15 @@ Ref<GpBrush> TextStyle::ShadowBrush() {
     return mShadowBrush;
 }
 
+Ref<GpPen> TextStyle::ShadowPen() {
+    if (!mShadowPen) {
+        mShadowPen = New<GpPen>();
+        mShadowPen->Create(static_cast<gdiplus::ARGB>(MakeARGBFromOleColor(ShadowColor, 255)),
+                           static_cast<float>(ShadowX) * 2, gdiplus::UnitPixel);
+    }
+    return mShadowPen;
+}
+
 // The font's quality is taken as the hint: its values are of that order.
 void TextStyle::DrawOn(gdi::HDC hDC, const String& text, const gdi::RECT& rect,
                        const Ref<GpBrush>& brush) {

@@ -3,6 +3,7 @@
 #include "vxgui/platform/gdi.h"
 #include "vxgui/text/JustifiedText.h"
 #include "vxgui/text/ScratchText.h"
+#include "vxgui/text/ShadowPlaces.h"
 #include "vxgui/text/ShadowText.h"
 #include "vxgui/text/TextStyle.h"
 #include "vxgui/text/WideText.h"
@@ -98,21 +99,16 @@ void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<c
 
 void TextStyle::PaintByStyle(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,
                              COLORREF& oldColor) {
-    const int32_t x = ShadowX, y = ShadowY, left = WrapSub(0, x), up = WrapSub(0, y);
+    const int32_t x = ShadowX, y = ShadowY;
     const COLORREF textRgb = ColorRefOf(TextColor), shadowRgb = ColorRefOf(ShadowColor);
     switch (TextStyle) {
         case TextStyleShadowRight:
-        case TextStyleOutLine: {
-            const gdi::POINT ring[] = {{left, up}, {0, up},   {x, up}, {x, 0},
-                                       {left, 0},  {left, y}, {0, y},  {x, y}};
-            PaintCopies(hDC, text, rect, flags, ring);
+        case TextStyleOutLine:
+            PaintCopies(hDC, text, rect, flags, RingPlaces(x, y));
             break;
-        }
-        case 3: {
-            const gdi::POINT diagonal[] = {{left, up}, {x, y}};
-            PaintCopies(hDC, text, rect, flags, diagonal);
+        case 3:
+            PaintCopies(hDC, text, rect, flags, DiagonalPlaces(x, y));
             break;
-        }
         case 4:
             DrawShadowTextA(hDC, rect,
                             {text, -1, flags, static_cast<int32_t>(textRgb),
