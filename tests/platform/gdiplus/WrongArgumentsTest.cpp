@@ -22,8 +22,9 @@ FlatFunction WithNothing(const char* name, Status (*function)(Arguments...)) {
     return {name, [function] { return function(Arguments()...); }};
 }
 
-// The shut-down answers nothing, and nothing is what it has to do here.
-FlatFunction WithNothing(const char* name, void (*)(ULONG_PTR)) {
+// What answers no status, the shut-down and the memory calls, has nothing to refuse.
+template <class Result, class... Arguments>
+FlatFunction WithNothing(const char* name, Result (*)(Arguments...)) {
     return {name, [] { return InvalidParameter; }};
 }
 
