@@ -7,7 +7,6 @@
 #include "vxgui/vxgui.h"
 
 using namespace vxgui;
-using gdiplus::ARGB;
 using gdiplus::GpPointF;
 
 namespace {
@@ -21,12 +20,12 @@ void PaintSky(GpGraphics& graphics) {
 }
 
 // A gradient from the middle of a circle to nothing at its edge.
-void PaintGlow(GpGraphics& graphics, float x, float y, float radius, ARGB colour) {
+void PaintGlow(GpGraphics& graphics, float x, float y, float radius, gdiplus::ARGB colour) {
     const auto circle = New<GpPath>();
     circle->AddEllipse(x - radius, y - radius, 2 * radius, 2 * radius);
     const auto glow = New<GpBrush>();
     glow->CreatePathBrushFromPath(circle->Handle());
-    const ARGB edge = colour & 0xFFFFFF;
+    const gdiplus::ARGB edge = colour & 0xFFFFFF;
     glow->CenterColor(colour);
     glow->SetSurroundColors(&edge, 1);
     graphics.FillPath(glow->Handle(), circle->Handle());
@@ -91,10 +90,12 @@ void PaintHills(GpGraphics& graphics) {
     const auto slope = New<GpBrush>();
     slope->CreateLineBrush(0xFF2C2450, 0xFF141030, 0, 150, kWidth, 125);
     graphics.FillPath(slope->Handle(), hills->Handle());
+    const auto top = New<GpPath>();
+    top->AddCurve(ridge, 6);
     const auto rim = New<GpPen>();
     rim->Create(0x60FFE9B0, 2);
     rim->LineJoin(gdiplus::LineJoinRound);
-    graphics.DrawPath(rim->Handle(), hills->Handle());
+    graphics.DrawPath(rim->Handle(), top->Handle());
 }
 
 // The moon's way over the water: dashes of a round pen that grow towards the shore.

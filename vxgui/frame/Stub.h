@@ -12,7 +12,7 @@ struct StubNode {
     StubNode* next = nullptr;
     std::atomic_flag listed{};
 };
-void EnlistStub(StubNode& node);
+VXGUI_API void EnlistStub(StubNode& node);
 
 /// Makes every stub of the process unbound again, so that the next call binds anew: for tests,
 /// which act out other companions. No other thread may be in a stub meanwhile.

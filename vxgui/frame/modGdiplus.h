@@ -11,7 +11,7 @@ namespace vxgui {
 
 /// The address of an export of GDI+, or null. Finds the module on first need.
 kernel::FARPROC GetGdipProc(const char* name);
-bool BindGdip(const char* name, corehlp::Slot stub);
+VXGUI_API bool BindGdip(const char* name, corehlp::Slot stub);
 
 /// The name of an export as a template argument.
 template <size_t N>
