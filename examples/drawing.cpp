@@ -114,7 +114,8 @@ void PaintPathOfLight(GpGraphics& graphics) {
 
 void PaintTitle(GpGraphics& graphics) {
     const auto font = New<GpFont>();
-    font->Create("DejaVu Sans", 26, gdiplus::FontStyleBold);
+    // 27 points are 36 pixels: outlines are drawn at a size in eighths of a pixel.
+    font->Create("DejaVu Sans", 27, gdiplus::FontStyleBold);
     const auto format = New<GpStringFormat>();
     format->SetAlignment(gdiplus::StringAlignmentCenter);
     const auto fill = New<GpBrush>();
