@@ -2,23 +2,12 @@
 
 #include <limits>
 
-#include "vxgui/base/Error.h"
 #include "vxgui/image/modPicture.h"
-#include "vxgui/image/modTGA.h"
 
 namespace vxgui {
 namespace {
 
 constexpr int32_t kWhite = -1;
-
-// The platform's loader, whose errors say no more than "none".
-Ref<ole::Picture> LoadByPlatform(const String& filename) {
-    try {
-        return ole::LoadPicture(filename);
-    } catch (const Error&) {
-        return nullptr;
-    }
-}
 
 Ref<ole::Picture> OwningPicture(gdi::HGDIOBJ handle, int16_t type = ole::kPictureBitmap) {
     return PictureFromHandle(handle, type, true);
@@ -28,11 +17,6 @@ Ref<ole::Picture> LoadByName(const String& filename, int32_t background) {
     int16_t type = 0;
     const gdi::HGDIOBJ handle = LoadPictureHandle(filename, type, background);
     return OwningPicture(handle, type);
-}
-
-gdi::HBITMAP TgaMemoryToHBitmap(const void* address, int32_t size) {
-    bool hasFooter = false;
-    return TgaToDib(address, size, hasFooter);
 }
 
 // What no 32-bit count holds is no picture.

@@ -37,7 +37,7 @@ void FillWith(gdi::HDC dc, int32_t width, int32_t height, int32_t color) {
 
 bool cAlphaDIBSection::CreateFromPictureFile(const String& Filename) {
     const KeepAlive alive(this);
-    auto picture = Ignoring([&] { return ole::LoadPicture(Filename); });
+    auto picture = LoadByPlatform(Filename);
     if (!picture) {
         picture = Ignoring([&] { return LoadByOwnLoader(Filename, TransparentColor()); });
     }
