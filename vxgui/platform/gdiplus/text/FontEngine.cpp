@@ -10,6 +10,12 @@ FontEngine& FontEngine::Here() {
     return engine;
 }
 
+// Pango keeps a configuration that it was given beyond the end of the map, unless it is taken away.
+void FontEngine::MapEnd::operator()(PangoFontMap* map) const {
+    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map), nullptr);
+    g_object_unref(map);
+}
+
 FontEngine::FontEngine() { FT_Init_FreeType(&library_); }
 
 FontEngine::~FontEngine() {

@@ -27,7 +27,7 @@ public:
 
 private:
     struct MapEnd {
-        void operator()(PangoFontMap* map) const { g_object_unref(map); }
+        void operator()(PangoFontMap* map) const;
     };
     using FontMap = std::unique_ptr<PangoFontMap, MapEnd>;
 
