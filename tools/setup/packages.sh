@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: makes sure that Debian's packages are there.
+# Sourced by ./run, ./test and bench/run.sh: makes sure that Debian's packages are there.
 
 BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config libpixman-1-dev libcairo2-dev
   libpango1.0-dev libfreetype-dev libfontconfig-dev libpng-dev libjpeg62-turbo-dev libgif-dev zlib1g-dev
@@ -6,6 +6,7 @@ BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config libpixman-1-dev libcairo
   fonts-dejavu-core fonts-wqy-microhei"
 TEST_PACKAGES="$BUILD_PACKAGES libgtest-dev libgmock-dev fonts-noto-core imagemagick icoutils
   qt6-base-dev xvfb xdotool"
+BENCH_PACKAGES="$BUILD_PACKAGES libbenchmark-dev"
 
 missing_packages() {
     local package
