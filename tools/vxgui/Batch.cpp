@@ -11,6 +11,7 @@
 #include "tools/vxgui/Progress.h"
 #include "tools/vxgui/StraightSurface.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/theme/skin/SkinError.h"
 
 namespace vxgui::tool {
 namespace {
@@ -69,7 +70,8 @@ Ref<cAlphaDIBSection> Changed(const cAlphaDIBSection& surface, const Change& cha
 }
 
 std::string MessageOf(const std::string& file, const std::exception& error) {
-    const bool named = dynamic_cast<const ToolError*>(&error) != nullptr;
+    const bool named = dynamic_cast<const ToolError*>(&error) != nullptr ||
+                       dynamic_cast<const SkinError*>(&error) != nullptr;
     return (named ? "" : file + ": error: ") + error.what();
 }
 

@@ -8,6 +8,10 @@ class App;
 
 namespace vxgui::tool {
 
+/// What the commands say of a skin that is their argument.
+constexpr const char* kSkinHelp =
+    "Define file of a theme set, compiled skin, UIS file of a skin, or res:MODULE:STYLE";
+
 // Each adds its subcommand to the tool's command line. What the subcommand reports goes to `out`;
 // how far it has got goes to `progress`, as long as that is a terminal.
 void AddAdjust(CLI::App& app, std::ostream& out, std::ostream& progress);

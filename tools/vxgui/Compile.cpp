@@ -2,9 +2,9 @@
 #include <memory>
 
 #include "tools/vxgui/Commands.h"
-#include "tools/vxgui/Skin.h"
 #include "tools/vxgui/ToolError.h"
 #include "vxgui/theme/CompiledSkin.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 namespace {

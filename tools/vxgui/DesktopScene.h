@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tools/vxgui/Sheet.h"
-#include "tools/vxgui/Skin.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 

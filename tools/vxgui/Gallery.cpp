@@ -6,8 +6,8 @@
 #include "tools/vxgui/DesktopScene.h"
 #include "tools/vxgui/GalleryLayout.h"
 #include "tools/vxgui/Sheet.h"
-#include "tools/vxgui/Skin.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 namespace {

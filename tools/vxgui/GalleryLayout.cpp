@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "tools/vxgui/ItemSize.h"
+#include "vxgui/theme/ItemLook.h"
 
 namespace vxgui::tool {
 namespace {
@@ -23,12 +23,6 @@ std::array<gdi::SIZE, 3> SizesOf(ThemeItem& item, bool captioned) {
     const int32_t wider =
         std::max(own.cx + std::clamp(own.cx / 2, 24, 72), captioned ? kCaptionWidth : 0);
     return {own, {wider, own.cy}, {wider, own.cy + std::clamp(own.cy / 2, 16, 48)}};
-}
-
-// Whether an item has anything to show in a state.
-bool Shows(ThemeItem& item, int32_t state) {
-    const bool image = item.Image() && item.StateFrame(state) < item.FrameCount();
-    return image || (item.Glyph() && item.GlyphStateFrame(state) < item.GlyphFrames());
 }
 
 gdi::RECT Moved(const gdi::RECT& rect, int32_t x, int32_t y) {
@@ -66,7 +60,7 @@ private:
 
 // The card as it stands by itself, its top left corner at the origin.
 GalleryCard LayOutCard(const SkinItem& shown) {
-    const auto& [section, name, caption, item] = shown;
+    const auto& [section, name, caption, item, ofDesktop] = shown;
     GalleryCard card{item, name, caption, {}, {}, {}};
     Flow flow(kCardMargin, kCardMargin + kTitleHeight, kPageWidth - 2 * kPageMargin - kCardMargin,
               kGap);
@@ -79,7 +73,7 @@ GalleryCard LayOutCard(const SkinItem& shown) {
             const gdi::RECT inner{ground.left + kCellMargin, ground.top + kCellMargin,
                                   ground.right - kCellMargin, ground.bottom - kCellMargin};
             card.cells.push_back(
-                {state, ground, inner, i > 0 && !caption.empty() && Shows(*item, state)});
+                {state, ground, inner, i > 0 && !caption.empty() && ShowsInState(*item, state)});
         }
     }
     const int32_t right = std::max(flow.Reach(), kCardMargin + kTitleWidth);

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "tools/vxgui/Skin.h"
 #include "vxgui/platform/gdi_types.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 

@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "tools/vxgui/Commands.h"
-#include "tools/vxgui/ItemSize.h"
 #include "tools/vxgui/Sheet.h"
-#include "tools/vxgui/Skin.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/theme/ItemLook.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "tools/vxgui/Skin.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
 namespace {
@@ -38,7 +38,7 @@ size_t PicturesOf(const Skin& skin) {
 }  // namespace
 
 void TellSkin(const ByteArray& bytes, const std::string& file, std::ostream& out) {
-    const Skin skin = CompiledSkinOf(bytes, file);
+    const Skin skin = SkinOfCompiled(bytes, file);
     out << file << ": compiled skin, " << Counted(skin.items.size(), "item") << ", "
         << Counted(CountOf(skin.set->Fonts()), "font") << ", "
         << Counted(CountOf(skin.set->TextStyles()), "text style") << ", "

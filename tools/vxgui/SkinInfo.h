@@ -8,7 +8,7 @@
 namespace vxgui::tool {
 
 /// What a compiled skin holds: its items with their strips, and how much else there is. A
-/// `ToolError` for a damaged one.
+/// damaged one raises a `SkinError`.
 void TellSkin(const ByteArray& bytes, const std::string& file, std::ostream& out);
 
 }  // namespace vxgui::tool

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "tools/vxgui/Commands.h"
-#include "vxgui/base/Error.h"
+#include "vxgui/theme/skin/SkinError.h"
 
 namespace vxgui::tool {
 namespace {
@@ -40,6 +40,9 @@ int Parse(CLI::App& app, std::vector<std::string> arguments, std::ostream& out,
         errors << "vxgui: " << error.what() << "\n";
         return kWrongCommandLine;
     } catch (const ToolError& error) {
+        errors << error.what() << "\n";
+        return kFileError;
+    } catch (const SkinError& error) {
         errors << error.what() << "\n";
         return kFileError;
     } catch (const std::exception& error) {

@@ -1,12 +1,11 @@
 #include <filesystem>
 
-#include "tools/vxgui/SkinDialects.h"
-#include "tools/vxgui/SkinReport.h"
-#include "tools/vxgui/ToolError.h"
-#include "tools/vxgui/UisItems.h"
 #include "vxgui/theme/StyleModule.h"
+#include "vxgui/theme/skin/SkinDialects.h"
+#include "vxgui/theme/skin/SkinReport.h"
+#include "vxgui/theme/skin/UisItems.h"
 
-namespace vxgui::tool {
+namespace vxgui {
 namespace {
 
 bool Has(core7::DefineFile& file, const String& section) {
@@ -36,11 +35,11 @@ bool Has(core7::DefineFile& file, const String& section) {
 
 // A bare name means a module beside the program or the library. To whoever types one, it is also
 // the file in the current folder.
-String Reference(const std::string& path) {
+String Reference(const String& path) {
     const StyleReference reference = ParseStyleReference(path);
     const bool bare = reference.module.view().find_first_of(u"/\\") == String::npos;
     const bool here = bare && core7::ThePathService().FileExists(reference.module);
-    return here ? "res:./" + reference.module + ":" + reference.style : String(path);
+    return here ? "res:./" + reference.module + ":" + reference.style : path;
 }
 
 void StartUp(Skin& skin) {
@@ -48,7 +47,7 @@ void StartUp(Skin& skin) {
         if (skin.desktop->DefFile().empty()) skin.desktop->DefFile(Reference(skin.path));
         skin.desktop->InitializeXPTaskbar();
     } catch (const Error& error) {
-        Fail(skin.path, error.Description().Utf8());
+        RefuseSkin(skin.path, error.Description());
     }
 }
 
@@ -59,7 +58,7 @@ bool IsUisSkin(core7::DefineFile& file) {
 }
 
 void LoadUisSkin(Skin& skin) {
-    const std::filesystem::path path = skin.path;
+    const std::filesystem::path path = skin.path.Utf8();
     const String folder =
         core7::ThePathService().TheFileSystem().GetParentFolderName(skin.file->Path());
     skin.desktop = New<SkinDef>();
@@ -80,10 +79,10 @@ void LoadStyle(Skin& skin) {
     StartUp(skin);
     skin.file = skin.desktop->UisFile();
     if (!skin.file || skin.desktop->TaskbarFile()->SectionNames().empty())
-        Fail(skin.path,
-             "no such style; res:MODULE:STYLE was expected, for example "
-             "res:DefaultStyles:blue");
+        RefuseSkin(skin.path,
+                   "no such style; res:MODULE:STYLE was expected, for example "
+                   "res:DefaultStyles:blue");
     GatherUisItems(skin, skin.path, "");
 }
 
-}  // namespace vxgui::tool
+}  // namespace vxgui

@@ -1,15 +1,14 @@
-#include "tools/vxgui/Skin.h"
+#include "vxgui/theme/skin/Skin.h"
 
-#include "tools/vxgui/SkinDialects.h"
-#include "tools/vxgui/SkinReport.h"
-#include "tools/vxgui/ToolError.h"
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/StyleModule.h"
+#include "vxgui/theme/skin/SkinDialects.h"
+#include "vxgui/theme/skin/SkinReport.h"
 
-namespace vxgui::tool {
+namespace vxgui {
 namespace {
 
-void Open(core7::DefineFile& file, const std::string& path) {
+void Open(core7::DefineFile& file, const String& path) {
     SkinReport report;
     const bool opened = file.OpenFile(path);
     report.AddProblems(file);
@@ -17,7 +16,7 @@ void Open(core7::DefineFile& file, const std::string& path) {
     report.ThrowIfAny();
 }
 
-[[noreturn]] void RefuseDialect(const std::string& path) {
+[[noreturn]] void RefuseDialect(const String& path) {
     SkinReport report;
     report.Add(path, {1, 1},
                "no section [ThemeSet]; a theme set begins with one that has the key Themes, and a "
@@ -28,7 +27,7 @@ void Open(core7::DefineFile& file, const std::string& path) {
 }  // namespace
 
 // Its notes stand in for the define file.
-Skin CompiledSkinOf(const ByteArray& bytes, const std::string& path) try {
+Skin SkinOfCompiled(const ByteArray& bytes, const String& path) try {
     const CompiledSkin compiled = CompiledSkinFrom(bytes);
     Skin skin{path, {}, core7::CreateDefineFile(), compiled.set, nullptr};
     skin.file->LoadText(compiled.notes);
@@ -40,13 +39,13 @@ Skin CompiledSkinOf(const ByteArray& bytes, const std::string& path) try {
     }
     return skin;
 } catch (const Error& error) {
-    Fail(path, error.Description().Utf8());
+    RefuseSkin(path, error.Description());
 }
 
-Skin LoadSkin(const std::string& path) {
+Skin LoadSkin(const String& path) {
     ByteArray bytes;
     if (core7::ReadWholeFile(path, &bytes) && IsCompiledSkin(bytes))
-        return CompiledSkinOf(bytes, path);
+        return SkinOfCompiled(bytes, path);
     Skin skin{path, {}, nullptr, nullptr, nullptr};
     if (IsStyleReference(path)) {
         LoadStyle(skin);
@@ -64,13 +63,13 @@ Skin LoadSkin(const std::string& path) {
     return skin;
 }
 
-Ref<ThemeItem> FindItem(const Skin& skin, const std::string& name) {
-    std::string known;
+Ref<ThemeItem> FindItem(const Skin& skin, const String& name) {
+    String known;
     for (const SkinItem& item : skin.items) {
         if (item.section.EqualsNoCase(name) || item.name.EqualsNoCase(name)) return item.item;
-        known += (known.empty() ? "" : ", ") + item.name.Utf8();
+        known += (known.empty() ? String() : String(", ")) + item.name;
     }
-    Fail(skin.path, "no item \"" + name + "\"; the items are " + known);
+    RefuseSkin(skin.path, "no item \"" + name + "\"; the items are " + known);
 }
 
-}  // namespace vxgui::tool
+}  // namespace vxgui

@@ -1,12 +1,11 @@
-#include "tools/vxgui/UisItems.h"
+#include "vxgui/theme/skin/UisItems.h"
 
 #include <algorithm>
 
-#include "tools/vxgui/SkinReport.h"
-#include "tools/vxgui/ToolError.h"
 #include "vxgui/theme/SkinParts.h"
+#include "vxgui/theme/skin/SkinReport.h"
 
-namespace vxgui::tool {
+namespace vxgui {
 namespace {
 
 bool Has(core7::DefineFile& file, const String& section) {
@@ -52,7 +51,7 @@ public:
                 Add(taskbar_, section, "", skin_.desktop->Item(section));
         }
         report_.ThrowIfAny();
-        if (skin_.items.empty()) Fail(skin_.path, "no section of the skin has an image");
+        if (skin_.items.empty()) RefuseSkin(skin_.path, "no section of the skin has an image");
     }
 
 private:
@@ -86,7 +85,8 @@ private:
             caption = kCaption;
             StyleCaption(*from.file, section, *item);
         }
-        skin_.items.push_back({section, section, caption, item});
+        const bool ofDesktop = &from == &taskbar_ || IsPart(section);
+        skin_.items.push_back({section, section, caption, item, ofDesktop});
     }
 
     void Check(const Dialect& from, const String& section, const char* key, const char* fallback,
@@ -123,4 +123,4 @@ void GatherUisItems(Skin& skin, const String& taskbarLabel, const String& folder
     Gatherer(skin, taskbarLabel, folder).Gather();
 }
 
-}  // namespace vxgui::tool
+}  // namespace vxgui

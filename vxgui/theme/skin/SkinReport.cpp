@@ -1,25 +1,17 @@
-#include "tools/vxgui/SkinReport.h"
+#include "vxgui/theme/skin/SkinReport.h"
 
-#include "tools/vxgui/ToolError.h"
-
-namespace vxgui::tool {
+namespace vxgui {
 
 void SkinReport::Add(const String& path, core7::DefinePosition at, const String& text) {
     if (!lines_.empty()) lines_ += "\n";
-    lines_ += path.Utf8();
-    if (at.line > 0) lines_ += ":" + std::to_string(at.line) + ":" + std::to_string(at.column);
-    lines_ += ": error: " + text.Utf8();
+    lines_ += path;
+    if (at.line > 0) lines_ += ":" + String::FromInt(at.line) + ":" + String::FromInt(at.column);
+    lines_ += ": error: " + text;
 }
 
 void SkinReport::AddProblems(const core7::DefineFile& file) {
     for (const core7::DefineProblem& problem : file.Problems())
         Add(file.Path(), {problem.line, problem.column}, problem.text);
-}
-
-void SkinReport::Throw() const { throw ToolError(lines_); }
-
-void SkinReport::ThrowIfAny() const {
-    if (!lines_.empty()) Throw();
 }
 
 void CheckPicture(const String& path, core7::DefinePosition at, const String& folder,
@@ -34,4 +26,4 @@ void CheckPicture(const String& path, core7::DefinePosition at, const String& fo
                     : "\" is not there: a file in the folder of the skin was expected"));
 }
 
-}  // namespace vxgui::tool
+}  // namespace vxgui

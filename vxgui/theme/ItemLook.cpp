@@ -1,8 +1,8 @@
-#include "tools/vxgui/ItemSize.h"
+#include "vxgui/theme/ItemLook.h"
 
 #include <algorithm>
 
-namespace vxgui::tool {
+namespace vxgui {
 namespace {
 
 gdi::SIZE GlyphSize(ThemeItem& item) {
@@ -26,4 +26,9 @@ gdi::SIZE OwnSize(ThemeItem& item) {
     return {std::max(size.cx, 1), std::max(size.cy, 1)};
 }
 
-}  // namespace vxgui::tool
+bool ShowsInState(ThemeItem& item, int32_t state) {
+    const bool image = item.Image() && item.StateFrame(state) < item.FrameCount();
+    return image || (item.Glyph() && item.GlyphStateFrame(state) < item.GlyphFrames());
+}
+
+}  // namespace vxgui

@@ -1,7 +1,7 @@
-#include "tools/vxgui/SkinDialects.h"
-#include "tools/vxgui/SkinReport.h"
+#include "vxgui/theme/skin/SkinDialects.h"
+#include "vxgui/theme/skin/SkinReport.h"
 
-namespace vxgui::tool {
+namespace vxgui {
 namespace {
 
 const char* const kSetSection = "ThemeSet";
@@ -57,4 +57,4 @@ void LoadThemeSet(Skin& skin) {
     report.ThrowIfAny();
 }
 
-}  // namespace vxgui::tool
+}  // namespace vxgui

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/vxgui/Skin.h"
+#include "vxgui/theme/skin/Skin.h"
 
-namespace vxgui::tool {
+namespace vxgui {
 
 // Each fills a skin from a define file that has been read without a problem.
 bool IsThemeSet(core7::DefineFile& file);
@@ -13,4 +13,4 @@ void LoadUisSkin(Skin& skin);
 /// Fills a skin from a style of a module.
 void LoadStyle(Skin& skin);
 
-}  // namespace vxgui::tool
+}  // namespace vxgui
