@@ -4,18 +4,10 @@
 
 #include <memory>
 
-#include "vxgui/platform/gdiplus/text/GlyphMasks.h"
+#include "vxgui/platform/gdiplus/text/MaskPlace.h"
 #include "vxgui/platform/gdiplus/text/StringLayout.h"
 
 namespace vxgui::gdiplus {
-
-/// How a layout comes to a device.
-struct MaskPlace {
-    Affine world;   ///< to device pixels; the shift is that of the layout rectangle's corner
-    GpRect within;  ///< what may be seen
-    TextRenderingHint hint = TextRenderingHintSystemDefault;
-    UINT contrast = 4;
-};
 
 /// The coverage of a text in device pixels.
 struct TextMask {
