@@ -181,6 +181,7 @@ convert -size 13x11 -dispose none -delay 5 \( motif.png -crop 8x6+3+2 \) \
     -loop 0 gif-animated.gif
 expect_pillow gif-89.gif gif-87.gif gif-interlaced.gif gif-transparent.gif
 convert 'gif-animated.gif[0]' -coalesce -depth 8 bgra:gif-animated.gif.bgra
+convert gif-animated.gif -alpha set -coalesce -depth 8 bgra:gif-animated-frames.bgra  # all three
 
 # --- TIFF ----------------------------------------------------------------------------------------
 convert motif.png -compress none tiff-rgb.tif
