@@ -27,4 +27,7 @@
 #include "vxgui/text/LFonts.h"
 #include "vxgui/text/TextStyles.h"
 #include "vxgui/theme/CompiledSkin.h"
+#include "vxgui/theme/ItemLook.h"
+#include "vxgui/theme/ItemPainter.h"
 #include "vxgui/theme/ThemeSetFile.h"
+#include "vxgui/theme/skin/Skin.h"

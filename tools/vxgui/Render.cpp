@@ -5,6 +5,7 @@
 #include "tools/vxgui/Commands.h"
 #include "tools/vxgui/Sheet.h"
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/pixels/Recover.h"
 #include "vxgui/theme/ItemLook.h"
 #include "vxgui/theme/skin/Skin.h"
 
@@ -67,23 +68,16 @@ void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon, con
         item.DrawText(sheet.dc(), options.text, DT_SINGLELINE, -1, 0, 0, right, bottom);
 }
 
-// What a pixel was to look so on black and so on white: straight colour and alpha. White shines
-// through by 255 - alpha, whatever kind of blit painted it.
-uint32_t Recovered(uint32_t onBlack, uint32_t onWhite) {
-    const auto channel = [](uint32_t pixel, int shift) {
-        return static_cast<int>(pixel >> shift & 255);
-    };
-    int alpha = 0;
-    for (int shift : {0, 8, 16})
-        alpha = std::max(alpha, 255 - channel(onWhite, shift) + channel(onBlack, shift));
-    alpha = std::clamp(alpha, 0, 255);
+// Straight colour and alpha, as picture files have them.
+uint32_t StraightOf(uint32_t onBlack, uint32_t onWhite) {
+    const ARGB pixel = Recover(std::bit_cast<ARGB>(onBlack), std::bit_cast<ARGB>(onWhite));
+    const int alpha = pixel.Alpha;
     if (alpha == 0) return 0;
-    uint32_t pixel = static_cast<uint32_t>(alpha) << 24;
-    for (int shift : {0, 8, 16}) {
-        const int colour = std::min(255, (channel(onBlack, shift) * 255 + alpha / 2) / alpha);
-        pixel |= static_cast<uint32_t>(colour) << shift;
-    }
-    return pixel;
+    const auto straight = [alpha](uint8_t colour) {
+        return static_cast<uint8_t>((colour * 255 + alpha / 2) / alpha);
+    };
+    return std::bit_cast<uint32_t>(
+        ARGB{straight(pixel.Blue), straight(pixel.Green), straight(pixel.Red), pixel.Alpha});
 }
 
 void RenderItem(const Options& options, std::ostream& out) {
@@ -98,7 +92,7 @@ void RenderItem(const Options& options, std::ostream& out) {
     Paint(white, *item, icon, options, 0xFFFFFFFF);
     for (int32_t y = 0; y < size.cy; ++y) {
         for (int32_t x = 0; x < size.cx; ++x)
-            black.At(x, y) = Recovered(black.At(x, y), white.At(x, y));
+            black.At(x, y) = StraightOf(black.At(x, y), white.At(x, y));
     }
     black.WritePng(options.output);
     out << options.output << ": " << size.cx << "x" << size.cy << "\n";

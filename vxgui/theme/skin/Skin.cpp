@@ -9,6 +9,11 @@ namespace vxgui {
 namespace {
 
 void Open(core7::DefineFile& file, const String& path) {
+    if (!core7::ThePathService().PathExists(path)) {
+        RefuseSkin(path,
+                   "is not there; the define file of a theme set, a compiled skin, the UIS file of "
+                   "a skin or res:MODULE:STYLE was expected");
+    }
     SkinReport report;
     const bool opened = file.OpenFile(path);
     report.AddProblems(file);
