@@ -6,7 +6,7 @@ file(GLOB_RECURSE VXPLATFORM_SOURCES CONFIGURE_DEPENDS
 list(FILTER VXPLATFORM_SOURCES EXCLUDE REGEX "vxgui/platform/qt6/")
 file(GLOB_RECURSE VXGUI_SOURCES CONFIGURE_DEPENDS
      vxgui/frame/*.cpp vxgui/surface/*.cpp vxgui/colour/*.cpp vxgui/text/*.cpp
-     vxgui/theme/*.cpp vxgui/image/*.cpp vxgui/gdip/*.cpp)
+     vxgui/theme/*.cpp vxgui/image/*.cpp vxgui/gdip/*.cpp vxgui/c/*.cpp)
 
 # The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone.
 file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp)

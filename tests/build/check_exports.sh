@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Every symbol that the shared libraries define for others belongs to them: names of the library's
-# namespace, or the platform's published flat functions. check_exports.sh LIBRARY ...
+# namespace, its C interface, or the platform's published flat functions. check_exports.sh LIBRARY ...
 set -eu
 status=0
 for library in "$@"; do
     # What the compiler makes of standard templates is weak and nobody's.
     strange=$(nm -D --defined-only --demangle "$library" | cut -d' ' -f3- |
-        grep -vE 'vxgui::|std::|^(Gdip|Gdiplus)[A-Z][A-Za-z0-9]*$|^VxCoreHlpEntry$|^operator ' || true)
+        grep -vE 'vxgui::|std::|^(Gdip|Gdiplus)[A-Z][A-Za-z0-9]*$|^vxgui_[a-z_]+$|^VxCoreHlpEntry$|^operator ' || true)
     if [ -n "$strange" ]; then
         echo "$library exports what isn't the library's own:"
         echo "$strange" | head -20

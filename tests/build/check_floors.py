@@ -12,15 +12,15 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 MEETING = re.compile(r"^- `([^`]+)` -> `([^`]+)`: ")
 
 FOLDERS = {"base": 0, "pixels": 0, "frame": 2, "gdip": 3, "image": 4, "surface": 5, "text": 6,
-           "colour": 6, "theme": 7}
+           "colour": 6, "theme": 7, "c": 8}
 # Rooms whose parts live on different floors.
 FILES = [(r"vxgui/frame/VxGuiGlobal", 8), (r"vxgui/colour/(GpColor|modColours|ColorHls)", 2),
-         (r"vxgui/text/(LFont|KeyedItems|ColorText|DefineSection|WideText)", 2), (r"vxgui/vxgui\.h", 8)]
+         (r"vxgui/text/(LFont|KeyedItems|ColorText|DefineSection|WideText)", 2), (r"vxgui/vxgui(_c)?\.h", 8)]
 STANDARD = set("""algorithm any array atomic bit bitset cassert cctype cerrno cfloat charconv chrono cinttypes climits
 clocale cmath compare concepts condition_variable cstddef cstdint cstdio cstdlib cstring ctime deque exception
 filesystem forward_list fstream functional initializer_list iomanip ios iosfwd iostream istream iterator
 limits list locale map memory memory_resource mutex new numbers numeric optional ostream queue random
-ranges ratio set shared_mutex source_location span sstream stack stdexcept streambuf string string_view
+ranges ratio set shared_mutex source_location span sstream stack stddef.h stdexcept stdint.h streambuf string string_view
 thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility variant vector""".split())
 
 
