@@ -88,8 +88,8 @@ void AddBatchOptions(CLI::App& command, Batch& batch) {
                     "File to write, by whose ending .bmp, .png, .tga or .adib (a serialized "
                     "surface) its form is chosen; with --to, a folder")
         ->required();
-    command.add_option("--to", batch.ending,
-                       "Ending of the files in the folder: bmp, png, tga or adib");
+    command.add_option("--to", batch.ending, "Ending of the files in the folder")
+        ->type_name("{bmp,png,tga,adib}");
 }
 
 void ForEachFile(const std::vector<std::string>& files,

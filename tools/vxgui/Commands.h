@@ -17,10 +17,12 @@ constexpr const char* kSkinHelp =
 void AddAdjust(CLI::App& app, std::ostream& out, std::ostream& progress);
 void AddCheck(CLI::App& app, std::ostream& out);
 void AddCompile(CLI::App& app, std::ostream& out);
+void AddCompletion(CLI::App& app, std::ostream& out);
 void AddConvert(CLI::App& app, std::ostream& out, std::ostream& progress);
 void AddEffect(CLI::App& app, std::ostream& out, std::ostream& progress);
 void AddGallery(CLI::App& app, std::ostream& out);
 void AddInfo(CLI::App& app, std::ostream& out);
+void AddManual(CLI::App& app, std::ostream& out);
 void AddPack(CLI::App& app, std::ostream& out);
 void AddRender(CLI::App& app, std::ostream& out);
 void AddUnpack(CLI::App& app, std::ostream& out);

@@ -107,10 +107,9 @@ void AddRender(CLI::App& app, std::ostream& out) {
     command->add_option("SKIN", options->skin, kSkinHelp)->required();
     command->add_option("--item", options->item, "The item's name, or its section")->required();
     command
-        ->add_option("--state", options->state,
-                     "Normal, MouseOver, Pressed, Disabled, Default, Focus, FocusPressed, Group or "
-                     "FocusMouseOver")
-        ->capture_default_str();
+        ->add_option("--state", options->state, "State to paint it in, Normal when left out")
+        ->type_name(
+            "{Normal,MouseOver,Pressed,Disabled,Default,Focus,FocusPressed,Group,FocusMouseOver}");
     command->add_option("--size", options->size,
                         "WIDTHxHEIGHT in pixels; the item's own size when left out");
     command->add_option("--frame", options->frame,

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "tools/vxgui/Commands.h"
+#include "vxgui/frame/Version.h"
 #include "vxgui/theme/skin/SkinError.h"
 
 namespace vxgui::tool {
@@ -51,22 +52,34 @@ int Parse(CLI::App& app, std::vector<std::string> arguments, std::ostream& out,
     }
 }
 
+std::string VersionText() {
+    const int32_t version = LibraryVersion();
+    return "vxgui " + std::to_string(version / 100) + "." + std::to_string(version % 100);
+}
+
 }  // namespace
 
-int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
-    CLI::App app("Paints and checks skins, and converts their pictures.", "vxgui");
+void AddCommands(CLI::App& app, std::ostream& out, std::ostream& errors) {
     app.footer(kExamples);
+    app.set_version_flag("--version", VersionText(), "Print the version and exit");
     app.require_subcommand(1);
     AddAdjust(app, out, errors);
     AddCheck(app, out);
     AddCompile(app, out);
+    AddCompletion(app, out);
     AddConvert(app, out, errors);
     AddEffect(app, out, errors);
     AddGallery(app, out);
     AddInfo(app, out);
-    AddRender(app, out);
+    AddManual(app, out);
     AddPack(app, out);
+    AddRender(app, out);
     AddUnpack(app, out);
+}
+
+int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
+    CLI::App app("Paints and checks skins, and converts their pictures.", "vxgui");
+    AddCommands(app, out, errors);
     return Parse(app, std::move(arguments), out, errors);
 }
 
