@@ -1,13 +1,19 @@
-# What `cmake --install` lays down, so that find_package(VxGui) and pkg-config find it.
+# What `cmake --install` lays down, so that find_package(VxGui) and pkg-config find it. Each file
+# belongs to a component, which the packages are made of.
 include(CMakePackageConfigHelpers)
 
+set(VXGUI_INNER_PATTERNS "")
+foreach(folder ${VXGUI_INNER_FOLDERS})
+  list(APPEND VXGUI_INNER_PATTERNS PATTERN ${folder} EXCLUDE)
+endforeach()
+
 install(TARGETS vxgui vxplatform EXPORT VxGuiTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY vxgui/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vxgui
-        FILES_MATCHING PATTERN "*.h"
-        PATTERN "c" EXCLUDE PATTERN "codecs" EXCLUDE PATTERN "gdi" EXCLUDE PATTERN "gdiplus" EXCLUDE PATTERN "ole" EXCLUDE
-        PATTERN "qt6" EXCLUDE PATTERN "forms" EXCLUDE PATTERN "core7" EXCLUDE PATTERN "corehlp" EXCLUDE PATTERN "kernel" EXCLUDE)
-install(EXPORT VxGuiTargets NAMESPACE VxGui:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        COMPONENT library NAMELINK_COMPONENT development)
+install(DIRECTORY vxgui/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vxgui COMPONENT development
+        FILES_MATCHING PATTERN "*.h" ${VXGUI_INNER_PATTERNS})
+install(EXPORT VxGuiTargets NAMESPACE VxGui:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui
+        COMPONENT development)
 
 configure_package_config_file(cmake/VxGuiConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfig.cmake
                               INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui)
@@ -15,8 +21,11 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfigVersion.
                                  COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfigVersion.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui)
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/VxGui COMPONENT development)
 
+# Seen from where the file lies, so that an installation can be moved.
+file(RELATIVE_PATH VXGUI_PREFIX_FROM_PC ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
+     ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/vxgui.pc.in ${CMAKE_CURRENT_BINARY_DIR}/vxgui.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/vxgui.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

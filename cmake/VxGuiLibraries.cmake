@@ -8,6 +8,9 @@ file(GLOB_RECURSE VXGUI_SOURCES CONFIGURE_DEPENDS
      vxgui/frame/*.cpp vxgui/surface/*.cpp vxgui/colour/*.cpp vxgui/text/*.cpp
      vxgui/theme/*.cpp vxgui/image/*.cpp vxgui/gdip/*.cpp vxgui/c/*.cpp)
 
+# Folders of headers that no host sees: what stands behind the platform's and the C headers.
+set(VXGUI_INNER_FOLDERS c codecs core7 corehlp forms gdi gdiplus kernel ole qt6)
+
 # The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone.
 file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp)
 set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS

@@ -23,5 +23,6 @@ if(NOT VXGUI_SANITIZE)
     COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/tools
     COMMAND ${CMAKE_COMMAND} -E create_symlink $<TARGET_FILE:vxgui-qt6>
             ${PROJECT_BINARY_DIR}/tools/libvxgui-qt6.so)
-  install(TARGETS vxgui-qt6 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS vxgui-qt6 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+          COMPONENT dialogs NAMELINK_COMPONENT development)
 endif()

@@ -20,5 +20,6 @@ add_custom_command(
   VERBATIM)
 add_custom_target(vxgui_styles ALL DEPENDS ${VXGUI_STYLES_MODULE})
 if(NOT VXGUI_SANITIZE)
-  install(FILES ${VXGUI_STYLES_MODULE} DESTINATION ${CMAKE_INSTALL_DATADIR}/vxgui)
+  install(FILES ${VXGUI_STYLES_MODULE} DESTINATION ${CMAKE_INSTALL_DATADIR}/vxgui
+          COMPONENT library)
 endif()

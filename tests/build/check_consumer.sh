@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# Installs the build into a folder of its own and builds a project outside the tree against it,
-# once by find_package and once by pkg-config. check_consumer.sh BUILD_DIR SOURCE_DIR
+# Installs the build into a folder of its own and builds a project outside the tree against it, once
+# by find_package and once by pkg-config; both find the library where the folder was moved to
+# afterwards. check_consumer.sh BUILD_DIR SOURCE_DIR
 set -eu
 build=$1 source=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-cmake --install "$build" --prefix "$work/usr" >/dev/null
+cmake --install "$build" --prefix "$work/first" >/dev/null
+mv "$work/first" "$work/usr"
 # The tool finds the styles that were installed with it, wherever that is, and not the build's.
 mkdir "$work/elsewhere"
 if [ -x "$work/usr/bin/vxgui" ] && [ -n "$(find "$work/usr/share" -name DefaultStyles.dll)" ]; then
@@ -20,7 +22,6 @@ cmake --build "$work/by-cmake" >/dev/null
 
 libdir=$(dirname "$(find "$work/usr" -name libvxgui.so)")
 export PKG_CONFIG_PATH="$libdir/pkgconfig" LD_LIBRARY_PATH="$libdir"
-# The file says where the build was configured to go; here it stands elsewhere.
-flags=$(pkg-config --define-variable=prefix="$work/usr" --cflags --libs vxgui)
+flags=$(pkg-config --cflags --libs vxgui)
 ${CXX:-c++} -o "$work/by-pkg-config" "$work/project/main.cpp" $flags
 "$work/by-pkg-config"
