@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "tests/theme/AskedFile.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/ThemeSet.h"
 #include "vxgui/theme/lint/KeyTable.h"
@@ -9,38 +10,7 @@
 namespace vxgui::lint {
 namespace {
 
-/// A define file with one value for each key, which remembers what it was asked for.
-class AskedFile : public core7::DefineFile {
-public:
-    explicit AskedFile(std::map<std::string, std::string> values) : values_(std::move(values)) {}
-
-    String GetString(const String&, const String& key, const String& fallback) override {
-        asked.insert(key.Utf8());
-        const auto found = values_.find(key.Utf8());
-        return found == values_.end() ? fallback : String(found->second);
-    }
-    int32_t GetInteger(const String& section, const String& key, const String& fallback) override {
-        return std::atoi(GetString(section, key, fallback).Utf8().c_str());
-    }
-    double GetNumber(const String& section, const String& key, const String& fallback) override {
-        return GetInteger(section, key, fallback);
-    }
-    std::vector<String> SectionNames() override { return {}; }
-    std::vector<String> KeyNames(const String&) override { return {}; }
-    bool OpenFile(const String&) override { return true; }
-    bool LoadText(const String&) override { return true; }
-    String Path() const override { return {}; }
-    const std::vector<core7::DefineProblem>& Problems() const override { return problems_; }
-    core7::DefinePosition PositionOf(const String&, const String&) const override { return {}; }
-    core7::DefinePosition PositionOf(const String&) const override { return {}; }
-
-    std::set<std::string> asked;
-
-private:
-    std::map<std::string, std::string> values_;
-    std::vector<core7::DefineProblem> problems_;
-};
-
+using test::AskedFile;
 using Values = std::map<std::string, std::string>;
 
 /// All keys that a reader asks for, over files that lead it down each of its ways.
@@ -50,7 +20,7 @@ std::set<std::string> AskedBy(Read read, const std::vector<Values>& files) {
     for (const Values& values : files) {
         const Ref<AskedFile> file = New<AskedFile>(values);
         read(file);
-        asked.insert(file->asked.begin(), file->asked.end());
+        for (const auto& [key, fallbacks] : file->asked) asked.insert(key);
     }
     return asked;
 }
