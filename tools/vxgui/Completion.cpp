@@ -27,44 +27,48 @@ std::vector<std::string> SubcommandNames(const std::vector<Command>& commands) {
     return names;
 }
 
-// Which words complete an option's value, an option or the subcommand; files complete the rest.
-void WriteBash(const std::vector<Command>& commands, std::ostream& out) {
-    const std::string names = Joined(SubcommandNames(commands));
-    out << "# bash completion of vxgui, written by `vxgui completion bash`\n"
-           "_vxgui() {\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}\n"
-           "    local command='' word words=''\n"
-           "    for word in \"${COMP_WORDS[@]:1:COMP_CWORD-1}\"; do\n"
-           "        case \"$word\" in\n"
-        << "        " << Joined(SubcommandNames(commands), " | ")
-        << ") command=$word; break ;;\n"
-           "        esac\n"
-           "    done\n"
-           "    case \"$command $before\" in\n";
-    for (const Command& command : commands) {
-        for (const CommandOption& option : command.options) {
-            for (const std::string& name : option.names) {
-                if (option.choices.empty()) continue;
-                out << "    '" << command.name << " " << name << "') words='"
-                    << Joined(option.choices) << "' ;;\n";
-            }
+constexpr const char* kBashHead =
+    "# bash completion of vxgui, written by `vxgui completion bash`\n"
+    "_vxgui() {\n"
+    "    local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}\n"
+    "    local command='' word words=''\n"
+    "    for word in \"${COMP_WORDS[@]:1:COMP_CWORD-1}\"; do\n"
+    "        case \"$word\" in\n";
+
+constexpr const char* kBashEnd =
+    "        esac\n"
+    "    fi\n"
+    "    COMPREPLY=()\n"
+    "    [ -z \"$words\" ] || COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
+    "}\n"
+    "complete -o bashdefault -o default -F _vxgui vxgui\n";
+
+void WriteBashCase(const std::string& pattern, const std::string& words, std::ostream& out) {
+    out << "        " << pattern << ") words='" << words << "' ;;\n";
+}
+
+void WriteBashChoices(const Command& command, std::ostream& out) {
+    for (const CommandOption& option : command.options) {
+        for (const std::string& name : option.names) {
+            if (option.choices.empty()) continue;
+            WriteBashCase("'" + command.name + " " + name + "'", Joined(option.choices), out);
         }
     }
+}
+
+// Which words complete an option's value, an option or the subcommand; files complete the rest.
+void WriteBash(const std::vector<Command>& commands, std::ostream& out) {
+    const std::vector<std::string> names = SubcommandNames(commands);
+    out << kBashHead << "        " << Joined(names, " | ") << ") command=$word; break ;;\n"
+        << "        esac\n    done\n    case \"$command $before\" in\n";
+    for (const Command& command : commands) WriteBashChoices(command, out);
     out << "    esac\n"
            "    if [ -z \"$words\" ]; then\n"
            "        case \"$command $current\" in\n";
-    for (size_t i = 1; i < commands.size(); ++i) {
-        out << "        '" << commands[i].name << " '-*) words='"
-            << Joined(OptionNames(commands[i])) << "' ;;\n";
-    }
-    out << "        ' '*) words='" << names << " " << Joined(OptionNames(commands[0]))
-        << "' ;;\n"
-           "        esac\n"
-           "    fi\n"
-           "    COMPREPLY=()\n"
-           "    [ -z \"$words\" ] || COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
-           "}\n"
-           "complete -o bashdefault -o default -F _vxgui vxgui\n";
+    for (size_t i = 1; i < commands.size(); ++i)
+        WriteBashCase("'" + commands[i].name + " '-*", Joined(OptionNames(commands[i])), out);
+    WriteBashCase("' '*", Joined(names) + " " + Joined(OptionNames(commands[0])), out);
+    out << kBashEnd;
 }
 
 // In single quotes, with what _arguments takes for its own made plain.
@@ -93,30 +97,34 @@ void WriteZshOption(const CommandOption& option, std::ostream& out) {
     }
 }
 
+constexpr const char* kZshHead =
+    "#compdef vxgui\n"
+    "# zsh completion of vxgui, written by `vxgui completion zsh`\n"
+    "_vxgui() {\n"
+    "    local -a commands=(\n";
+
+constexpr const char* kZshChoice =
+    "    )\n"
+    "    if (( CURRENT == 2 )); then\n"
+    "        _describe 'command' commands\n"
+    "        return\n"
+    "    fi\n"
+    "    local command=$words[2]\n"
+    "    shift words\n"
+    "    (( CURRENT-- ))\n"
+    "    case $command in\n";
+
 void WriteZsh(const std::vector<Command>& commands, std::ostream& out) {
-    out << "#compdef vxgui\n"
-           "# zsh completion of vxgui, written by `vxgui completion zsh`\n"
-           "_vxgui() {\n"
-           "    local -a commands=(\n";
+    out << kZshHead;
     for (size_t i = 1; i < commands.size(); ++i)
         out << "        '" << commands[i].name << ":" << ZshText(commands[i].help) << "'\n";
-    out << "    )\n"
-           "    if (( CURRENT == 2 )); then\n"
-           "        _describe 'command' commands\n"
-           "        return\n"
-           "    fi\n"
-           "    local command=$words[2]\n"
-           "    shift words\n"
-           "    (( CURRENT-- ))\n"
-           "    case $command in\n";
+    out << kZshChoice;
     for (size_t i = 1; i < commands.size(); ++i) {
         out << "    " << commands[i].name << ") _arguments";
         for (const CommandOption& option : commands[i].options) WriteZshOption(option, out);
         out << " \\\n        '*:file:_files' ;;\n";
     }
-    out << "    esac\n"
-           "}\n"
-           "_vxgui \"$@\"\n";
+    out << "    esac\n}\n_vxgui \"$@\"\n";
 }
 
 void WriteCompletion(CLI::App& app, const std::string& shell, std::ostream& out) {
