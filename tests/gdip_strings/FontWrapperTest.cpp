@@ -242,6 +242,16 @@ TEST_F(FontWrapper, ALogicalFontAnswersItsTwin) {
     EXPECT_EQ(logical->GpFont()->SIZE(), 24);
 }
 
+TEST_F(FontWrapper, ATwinTakesTheWatchOverFromAStandardFont) {
+    const Ref<LFont> logical = New<LFont>();
+    logical->Create("DejaVu Serif", -16);
+    const Ref<ole::StdFont> standard = logical->StdFont();
+    const Ref<GpFont> twin = logical->GpFont();
+    standard->Bold(true);
+    EXPECT_EQ(logical->Weight, 400) << "the twin was made of a later one";
+    EXPECT_EQ(logical->GpFont(), twin);
+}
+
 TEST_F(FontWrapper, ALogicalFontOfNoFamilyAnswersAnEmptyTwin) {
     const Ref<LFont> logical = New<LFont>();
     logical->Create("No Such Font", -16);

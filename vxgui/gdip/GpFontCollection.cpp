@@ -13,7 +13,6 @@ void GpFontCollection::Dispose() {
     families_.clear();
     if (mPrivate) flat::GdipDeletePrivateFontCollection(&handle_);
     handle_ = nullptr;
-    mPrivate = false;
 }
 
 Ref<GpFontFamily> GpFontCollection::FontFamily(int32_t Index) {

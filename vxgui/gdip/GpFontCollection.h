@@ -11,7 +11,8 @@ class VXGUI_API GpFontCollection : public GpObject {
 public:
     gdiplus::GpFontCollection* Handle() const { return handle_; }
     void SetHandle(gdiplus::GpFontCollection*& handle);
-    /// Deletes the families that `GetInstalledFontCollection` found, too.
+    /// Deletes the families that `GetInstalledFontCollection` found, too. A private collection stays
+    /// private, which is meant.
     void Dispose();
 
     /// The family of an index from 0, or none. It shares the collection's own handle.

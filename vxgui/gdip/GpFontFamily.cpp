@@ -43,7 +43,7 @@ bool GpFontFamily::CreateGenericMonospaceFamily() {
 
 String GpFontFamily::GetFamilyName() {
     constexpr gdiplus::LANGID kNeutral = 0;
-    char16_t name[32] = {};
+    char16_t name[32 + 1] = {};  // the function fills 32, and nothing promises a zero among them
     return Check(flat::GdipGetFamilyName(handle_, name, kNeutral)) ? String(name) : String();
 }
 

@@ -67,9 +67,8 @@ gdiplus::Status GpStringFormat::FromDTFlags(uint32_t DTFlags, bool Typographic, 
                                          : flat::GdipStringFormatGetGenericDefault(&source);
     if (status == gdiplus::Ok) status = flat::GdipCloneStringFormat(source, &made);
     if (status == gdiplus::Ok) status = ApplyDTFlags(made, DTFlags, SFFlags);
+    if (!Adopt(status, made) && made) flat::GdipDeleteStringFormat(made);
     if (source) flat::GdipDeleteStringFormat(source);
-    if (Adopt(status, made)) return gdiplus::Ok;
-    if (made) flat::GdipDeleteStringFormat(made);
     return status;
 }
 
