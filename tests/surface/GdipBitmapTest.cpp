@@ -1,7 +1,10 @@
+#include "tests/support/Errors.h"
+#include "tests/support/FlatCalls.h"
 #include "tests/support/GdiplusSession.h"
 #include "tests/support/Golden.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/surface/SurfaceSupport.h"
+#include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/platform/gdiplus.h"
 
 namespace vxgui::test {
@@ -62,6 +65,34 @@ TEST_F(SurfaceFromGdip, AnOriginOutsideOrNoBitmapLeavesTheSurface) {
     EXPECT_FALSE(surface->FromHGpBitmap(bitmap, 0, 0, 0, 1));
     EXPECT_FALSE(surface->FromHGpBitmap(nullptr));
     EXPECT_NE(surface->hDC(), nullptr);
+}
+
+TEST_F(SurfaceFromGdip, AnObjectGivesWhatItsHandleGives) {
+    const auto object = New<GpBitmap>();
+    const auto surface = New<cAlphaDIBSection>();
+    EXPECT_FALSE(surface->FromGpBitmap(object)) << "an empty one";
+    gdiplus::GpBitmap* copy = nullptr;
+    gdiplus::GdipCloneBitmapAreaI(0, 0, 4, 3, gdiplus::PixelFormat32bppARGB, bitmap, &copy);
+    object->SetHandle(copy);
+    ASSERT_TRUE(surface->FromGpBitmap(object, 1, 1, 2, 2));
+    EXPECT_EQ(Blues(surface), (std::vector<int>{6, 7, 8, 9}));
+    ASSERT_TRUE(surface->FromGpBitmap(object));
+    EXPECT_EQ(surface->Width(), 4);
+    EXPECT_EQ(surface->Height(), 3);
+    EXPECT_EQ(RaisedBy([&] { surface->FromGpBitmap(nullptr); }), 91);
+}
+
+TEST_F(SurfaceFromGdip, LocksThePartForReading) {
+    const auto surface = New<cAlphaDIBSection>();
+    FlatCalls calls;
+    ASSERT_TRUE(surface->FromHGpBitmap(bitmap, 1, 1, 9, -5));
+    EXPECT_EQ(calls.Take(),
+              (std::vector<std::string>{"GdipGetImageWidth(*, *)", "GdipGetImageHeight(*, *)",
+                                        "GdipBitmapLockBits(*, [1 1 3 2], 1, 2498570, *)",
+                                        "GdipBitmapUnlockBits(*, *)"}));
+    calls.Answer("GdipBitmapLockBits", gdiplus::WrongState);
+    EXPECT_FALSE(surface->FromHGpBitmap(bitmap, 0, 0, 1, 1));
+    EXPECT_EQ(surface->Width(), 3) << "as it was";
 }
 
 TEST_F(SurfaceFromGdip, ASurfaceThatCannotBeCreatedLeavesTheLockHeld) {
