@@ -53,6 +53,21 @@ TEST_F(GpShadowText, ADarkGreyTextOnItsOwnShadowBecomesWhite) {
     EXPECT_FALSE(canvas.IsBlank());
 }
 
+TEST_F(GpShadowText, ALuminanceOf119IsStillDark) {
+    TextCanvas canvas(200, 60, -30);
+    gdi::SetTextColor(canvas.dc, gdi::RGB(126, 126, 126));
+    Global().GpDrawShadowText(On(canvas), "MM", {10, 5, 180, 50}, ColorOf(0xFF7E7E7E));
+    EXPECT_EQ(canvas.Count(0x000000), 0);
+    EXPECT_FALSE(canvas.IsBlank());
+}
+
+TEST_F(GpShadowText, AnotherAlphaIsAnotherColour) {
+    TextCanvas canvas(200, 60, -30);
+    gdi::SetTextColor(canvas.dc, gdi::RGB(126, 126, 126));
+    Global().GpDrawShadowText(On(canvas), "MM", {10, 5, 180, 50}, ColorOf(0x807E7E7E));
+    EXPECT_GT(canvas.Count(0x7E7E7E), 50) << "the text's alpha is 255";
+}
+
 TEST_F(GpShadowText, AColouredTextOnItsOwnShadowTakesTheComplement) {
     TextCanvas canvas(200, 60, -30);
     gdi::SetTextColor(canvas.dc, gdi::RGB(255, 0, 0));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/FlatCalls.h"
 #include "tests/support/GdiplusSession.h"
 #include "tests/text/TextCanvas.h"
 #include "vxgui/gdip/GpFont.h"
@@ -90,6 +91,34 @@ TEST_F(BlurredShadow, TheQualityOfTheFontIsTheRenderingHint) {
         EXPECT_TRUE((pixel & 0xFFFFFF) == 0xFFFFFF || (pixel & 0xFFFFFF) == 0x102040);
     Draw(smooth, StyleOf(0, 0));
     EXPECT_LT(smooth.Count(0x102040), mono.Count(0x102040));
+}
+
+TEST_F(BlurredShadow, DrawsTheShadowOnASurfaceAndThenTheText) {
+    TextCanvas canvas(160, 60);
+    const Ref<TextStyle> style = StyleOf(3, 2);
+    style->ShadowOffsetX = 1;
+    style->ShadowOffsetY = -1;
+    style->TextContrast = 6;
+    style->FormatFlags = 0x800;
+    style->TextAlignHorz = TextAlignHorzRight;
+    style->TextBrush();
+    style->ShadowBrush();
+    canvas.font->GpFont();
+    test::FlatCalls calls;
+    Draw(canvas, style, "text");
+    const std::vector<std::string> lines =
+        calls.TakeOf({"GdipStringFormatGetGenericTypographic", "GdipSetStringFormatAlign",
+                      "GdipSetStringFormatFlags", "GdipCreateFromHDC", "GdipSetTextRenderingHint",
+                      "GdipSetTextContrast", "GdipDrawString", "GdipDeleteGraphics"});
+    EXPECT_EQ(
+        lines,
+        (std::vector<std::string>{
+            "GdipStringFormatGetGenericTypographic(*)", "GdipSetStringFormatAlign(*, 2)",
+            "GdipSetStringFormatFlags(*, 6144)", "GdipCreateFromHDC(*, *)",
+            "GdipSetTextRenderingHint(*, 4)", "GdipSetTextContrast(*, 6)",
+            "GdipDrawString(*, \"text\", -1, *, [4 1 140 40], *, *)", "GdipCreateFromHDC(*, *)",
+            "GdipDeleteGraphics(*)", "GdipSetTextRenderingHint(*, 4)", "GdipSetTextContrast(*, 6)",
+            "GdipDrawString(*, \"text\", -1, *, [10 10 140 40], *, *)", "GdipDeleteGraphics(*)"}));
 }
 
 TEST_F(BlurredShadow, FormatFlagsActOnIt) {

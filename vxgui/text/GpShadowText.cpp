@@ -114,7 +114,8 @@ void Draw(GpGraphics& graphics, Arguments a) {
 }
 
 void Report(int32_t number, const String& description) {
-    ShowErrorBox(String("Unexpected error in procedure: GpDrawShadowText\r\nError #") +
+    // Without a break between the two, which is meant.
+    ShowErrorBox(String("Unexpected error in procedure: GpDrawShadowTextError #") +
                  String::FromInt(number) + ": " + description);
 }
 

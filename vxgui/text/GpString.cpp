@@ -88,14 +88,13 @@ bool GpString::RenderSurface(GpGraphics& graphics, const String& text) {
     return true;
 }
 
-// Drawn on the bitmap itself: its `Image` is a copy.
+// Drawn on the bitmap itself: its `Image` is a copy. The contrast stays the graphics' own.
 void GpString::RenderBitmap(GpGraphics& graphics, const String& text) {
     mBitmap = New<class GpBitmap>();
     if (!mBitmap->FromGraphics(mSurface->Width(), mSurface->Height(), graphics.Handle())) return;
     const Ref<GpGraphics> onBitmap = New<GpGraphics>();
     onBitmap->FromImage(reinterpret_cast<gdiplus::GpImage*>(mBitmap->Handle()));
     onBitmap->TextRenderingHint(mTextRenderingHint);
-    onBitmap->TextContrast(mTextContrast);
     Render(*onBitmap, text, mShadowBrush, WrapAdd(ShadowOffsetX, ShadowX),
            WrapAdd(ShadowOffsetY, ShadowY));
     mBitmap->GaussianBlur(ShadowX, ShadowY, 0, 0, 0, 0);

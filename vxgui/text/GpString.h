@@ -45,7 +45,8 @@ public:
     void TextColor(int32_t value);
     void ShadowColor(int32_t value);
 
-    // What was rendered: the bitmap and the surface hold the same.
+    // What was rendered. The surface's shadow is soft; the bitmap's is the edges of one, which is what
+    // `GpBitmap::GaussianBlur` leaves.
     Ref<class GpBitmap> GpBitmap() const { return mBitmap; }
     Ref<cAlphaDIBSection> AlphaDIBSection() const { return mSurface; }
     Ref<ole::Picture> Picture();

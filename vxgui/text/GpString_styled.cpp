@@ -90,6 +90,7 @@ void GpString::DrawBlurShadowGdip(gdi::HDC hDC, const String& text, const gdi::R
     font->FromHDC(hDC);
     const Ref<GpStringFormat> format = New<GpStringFormat>();
     format->GetGenericDefault();
+    const Ref<GpBrush> textBrush = OpaqueBrush(mTextRGB);
     const auto draw = [&](GpGraphics& target, int32_t x, int32_t y, const Ref<GpBrush>& brush) {
         target.DrawString(text, x, y, WidthOf(rect), HeightOf(rect), -1, format->Handle(),
                           brush->Handle(), font->Handle());
@@ -103,10 +104,11 @@ void GpString::DrawBlurShadowGdip(gdi::HDC hDC, const String& text, const gdi::R
         scratch->TextRenderingHint(graphics->TextRenderingHint());
         draw(*scratch, ShadowX, ShadowY, OpaqueBrush(mShadowRGB));
         BlurBitmap(*bitmap, w, h, ShadowX);
-        graphics->DrawImage(bitmap->Image(), WrapAdd(WrapSub(rect.left, ShadowX), ShadowOffsetX),
-                            WrapAdd(WrapSub(rect.top, ShadowY), ShadowOffsetY), w, h);
+        // By its handle: to read its `Image` would copy it, and leave the handle behind for good.
+        graphics->DrawBitmap(bitmap->Handle(), WrapAdd(WrapSub(rect.left, ShadowX), ShadowOffsetX),
+                             WrapAdd(WrapSub(rect.top, ShadowY), ShadowOffsetY), w, h);
     }
-    draw(*graphics, rect.left, rect.top, OpaqueBrush(mTextRGB));
+    draw(*graphics, rect.left, rect.top, textBrush);
 }
 
 }  // namespace vxgui

@@ -44,7 +44,7 @@ void DrawOutLineText(const Ref<GpGraphics>& graphics, const String& Text, int32_
                      Ref<GpStringFormat> StringFormat) {
     GpGraphics& target = Require(graphics, "DrawOutLineText");
     target.SmoothingMode(gdiplus::SmoothingModeAntiAlias);
-    target.InterpolationMode(gdiplus::InterpolationModeHighQualityBicubic);
+    flat::GdipSetInterpolationMode(target.Handle(), gdiplus::InterpolationModeHighQualityBicubic);
     LentContext context(target);
     Ref<GpColor> color;
     if (!Font) Font = FontOf(context.Get());
