@@ -39,8 +39,9 @@ protected:
 
 TEST_F(BrushWrapper, StartsWithoutABrush) {
     EXPECT_EQ(brush_->Handle(), nullptr);
-    EXPECT_EQ(brush_->GetType(), -1);
     EXPECT_EQ(brush_->Status, gdiplus::Ok);
+    EXPECT_EQ(brush_->GetType(), -1);
+    EXPECT_EQ(brush_->Status, gdiplus::InvalidParameter) << "it is asked for";
     EXPECT_EQ(brush_->Clone(), nullptr);
     EXPECT_EQ(brush_->Status, gdiplus::InvalidParameter);
 }

@@ -26,9 +26,7 @@ Ref<GpImage> GpBitmap::Image() {
     const KeepAlive keep(this);
     if (image_) return image_;
     gdiplus::GpImage* clone = nullptr;
-    if (!Check(flat::GdipCloneImage(AsImage(), &clone)) || !clone) return nullptr;
-    image_ = New<GpImage>();
-    image_->SetHandle(clone);
+    if (Check(flat::GdipCloneImage(AsImage(), &clone))) image_ = Holding<GpImage>(clone);
     return image_;
 }
 
@@ -41,11 +39,7 @@ Ref<GpBitmap> GpBitmap::Clone(int32_t X, int32_t Y, int32_t& Width, int32_t& Hei
     const bool made = Check(flat::GdipCloneBitmapArea(
         static_cast<float>(X), static_cast<float>(Y), static_cast<float>(Width),
         static_cast<float>(Height), PixelFormat, handle_, &clone));
-    return made ? Adopted(clone) : nullptr;
-}
-
-gdiplus::GpBitmap* GpBitmap::AdoptedHandle(gdiplus::Status status, gdiplus::GpBitmap*& made) {
-    return Adopt(status, made) ? handle_ : nullptr;
+    return made ? Holding<GpBitmap>(clone) : nullptr;
 }
 
 bool GpBitmap::Create(int32_t Width, int32_t Height, gdi::HDC) {
@@ -69,21 +63,14 @@ bool GpBitmap::Create(int32_t Width, int32_t Height, gdi::HDC) {
 }
 
 gdiplus::GpBitmap* GpBitmap::FromFile(const String& Filename, bool UseEmbeddedColorManagement) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return AdoptedHandle(UseEmbeddedColorManagement
-                             ? flat::GdipCreateBitmapFromFileICM(Filename.data(), &bitmap)
-                             : flat::GdipCreateBitmapFromFile(Filename.data(), &bitmap),
-                         bitmap);
+    const gdiplus::WCHAR* const name = Filename.data();
+    return UseEmbeddedColorManagement ? MakeHandle(flat::GdipCreateBitmapFromFileICM, name)
+                                      : MakeHandle(flat::GdipCreateBitmapFromFile, name);
 }
 
 gdiplus::GpBitmap* GpBitmap::FromStream(gdiplus::IStream* Stream, bool UseEmbeddedColorManagement) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return AdoptedHandle(UseEmbeddedColorManagement
-                             ? flat::GdipCreateBitmapFromStreamICM(Stream, &bitmap)
-                             : flat::GdipCreateBitmapFromStream(Stream, &bitmap),
-                         bitmap);
+    return UseEmbeddedColorManagement ? MakeHandle(flat::GdipCreateBitmapFromStreamICM, Stream)
+                                      : MakeHandle(flat::GdipCreateBitmapFromStream, Stream);
 }
 
 gdiplus::GpBitmap* GpBitmap::FromMemAddr(const void* lpBits, int32_t nSize,
@@ -101,47 +88,29 @@ gdiplus::GpBitmap* GpBitmap::FromByteArray(const ByteArray& Bytes,
 
 bool GpBitmap::FromScan0(int32_t Width, int32_t Height, int32_t Stride,
                          gdiplus::PixelFormat PixelFormat, BYTE* Scan0) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(
-        flat::GdipCreateBitmapFromScan0(Width, Height, Stride, PixelFormat, Scan0, &bitmap),
-        bitmap);
+    return Make(flat::GdipCreateBitmapFromScan0, Width, Height, Stride, PixelFormat, Scan0);
 }
 
 bool GpBitmap::FromGraphics(int32_t Width, int32_t Height, gdiplus::GpGraphics* hGraphics) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromGraphics(Width, Height, hGraphics, &bitmap), bitmap);
+    return Make(flat::GdipCreateBitmapFromGraphics, Width, Height, hGraphics);
 }
 
 bool GpBitmap::FromDirectDrawSurface7(void* Surface) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromDirectDrawSurface(Surface, &bitmap), bitmap);
+    return Make(flat::GdipCreateBitmapFromDirectDrawSurface, Surface);
 }
 
 bool GpBitmap::FromGdiDib(const gdi::BITMAPINFO* GdiBitmapInfo, void* GdiBitmapData) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromGdiDib(GdiBitmapInfo, GdiBitmapData, &bitmap), bitmap);
+    return Make(flat::GdipCreateBitmapFromGdiDib, GdiBitmapInfo, GdiBitmapData);
 }
 
 bool GpBitmap::FromHBITMAP(gdi::HBITMAP hBitmap, gdi::HPALETTE hPalette) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromHBITMAP(hBitmap, hPalette, &bitmap), bitmap);
+    return Make(flat::GdipCreateBitmapFromHBITMAP, hBitmap, hPalette);
 }
 
-bool GpBitmap::FromHICON(gdi::HICON hIcon) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromHICON(hIcon, &bitmap), bitmap);
-}
+bool GpBitmap::FromHICON(gdi::HICON hIcon) { return Make(flat::GdipCreateBitmapFromHICON, hIcon); }
 
 bool GpBitmap::FromResource(kernel::HMODULE hInstance, const String& BitmapName) {
-    const KeepAlive keep(this);
-    gdiplus::GpBitmap* bitmap = nullptr;
-    return Adopt(flat::GdipCreateBitmapFromResource(hInstance, BitmapName.data(), &bitmap), bitmap);
+    return Make(flat::GdipCreateBitmapFromResource, hInstance, BitmapName.data());
 }
 
 }  // namespace vxgui

@@ -96,8 +96,6 @@ protected:
 
 private:
     gdiplus::GpImage* AsImage() const { return reinterpret_cast<gdiplus::GpImage*>(handle_); }
-    /// Adopts what a creating call made; the new handle, or null.
-    gdiplus::GpBitmap* AdoptedHandle(gdiplus::Status status, gdiplus::GpBitmap*& made);
 
     Ref<GpImage> image_;
     std::vector<uint32_t> store_;  ///< the pixels of a bitmap that could only be made over memory

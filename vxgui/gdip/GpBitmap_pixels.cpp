@@ -22,11 +22,7 @@ gdi::HBITMAP GpBitmap::GetHBITMAP(gdiplus::ARGB ColorBackground) {
     return bitmap;
 }
 
-gdi::HICON GpBitmap::GetHICON() {
-    gdi::HICON icon = nullptr;
-    Check(flat::GdipCreateHICONFromBitmap(handle_, &icon));
-    return icon;
-}
+gdi::HICON GpBitmap::GetHICON() { return Asked<gdi::HICON>(flat::GdipCreateHICONFromBitmap); }
 
 Ref<ole::Picture> GpBitmap::Picture(gdiplus::ARGB ColorBackground) {
     return PictureFromHandle(GetHBITMAP(ColorBackground), ole::kPictureBitmap, true);
@@ -114,7 +110,7 @@ gdiplus::Status GpBitmap::GetHistogram(gdiplus::HistogramFormat Format, uint32_t
 }
 
 gdiplus::Status GpBitmap::GetHistogramSize(gdiplus::HistogramFormat Format, UINT* NumberOfEntries) {
-    return flat::GdipBitmapGetHistogramSize(Format, NumberOfEntries);
+    return flat::GdipBitmapGetHistogramSize(handle_, Format, NumberOfEntries);
 }
 
 }  // namespace vxgui

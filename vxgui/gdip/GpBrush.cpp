@@ -13,10 +13,8 @@ void GpBrush::Dispose() {
 }
 
 int32_t GpBrush::GetType() {
-    auto type = gdiplus::BrushTypeSolidColor;
-    if (mType == kUnknown && handle_ && Check(flat::GdipGetBrushType(handle_, &type))) {
-        mType = type;
-    }
+    auto type = static_cast<gdiplus::BrushType>(kUnknown);
+    if (mType == kUnknown && Check(flat::GdipGetBrushType(handle_, &type))) mType = type;
     return mType;
 }
 
@@ -29,7 +27,7 @@ bool GpBrush::SetColor(gdiplus::ARGB Color) {
     return Check(flat::GdipSetSolidFillColor(handle_, Color));
 }
 
-gdiplus::ARGB GpBrush::GetColor() { return Read<gdiplus::ARGB>(flat::GdipGetSolidFillColor); }
+gdiplus::ARGB GpBrush::GetColor() { return Asked<gdiplus::ARGB>(flat::GdipGetSolidFillColor); }
 
 bool GpBrush::CreateHatchBrush(gdiplus::HatchStyle Style, gdiplus::ARGB ForegroundColor,
                                gdiplus::ARGB BackgroundColor) {
@@ -37,15 +35,15 @@ bool GpBrush::CreateHatchBrush(gdiplus::HatchStyle Style, gdiplus::ARGB Foregrou
 }
 
 gdiplus::HatchStyle GpBrush::GetHatchStyle() {
-    return Read<gdiplus::HatchStyle>(flat::GdipGetHatchStyle);
+    return Asked<gdiplus::HatchStyle>(flat::GdipGetHatchStyle);
 }
 
 gdiplus::ARGB GpBrush::GetForegroundColor() {
-    return Read<gdiplus::ARGB>(flat::GdipGetHatchForegroundColor);
+    return Asked<gdiplus::ARGB>(flat::GdipGetHatchForegroundColor);
 }
 
 gdiplus::ARGB GpBrush::GetBackgroundColor() {
-    return Read<gdiplus::ARGB>(flat::GdipGetHatchBackgroundColor);
+    return Asked<gdiplus::ARGB>(flat::GdipGetHatchBackgroundColor);
 }
 
 }  // namespace vxgui

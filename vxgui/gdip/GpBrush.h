@@ -17,7 +17,7 @@ public:
     /// The type is known at once.
     void SetHandle(gdiplus::GpBrush*& pHandle);
     void Dispose();
-    /// One of `BrushType`, asked for when it isn't known; -1 without a brush.
+    /// One of `BrushType`, asked for when it isn't known; -1 without a brush, which is a failure.
     int32_t GetType();
 
     bool CreateSolidBrush(gdiplus::ARGB Color);
@@ -147,20 +147,6 @@ private:
         if (mType == gdiplus::BrushTypeLinearGradient) return line(handle_, args...);
         if (mType == gdiplus::BrushTypePathGradient) return path(handle_, args...);
         return gdiplus::Ok;
-    }
-    // What `get(handle, result)` reads; a failure is kept.
-    template <class Result, class Get>
-    Result Read(const Get& get) {
-        Result value{};
-        Check(get(handle_, &value));
-        return value;
-    }
-    template <class Create, class... Args>
-    bool Make(const Create& create, Args... args) {
-        const KeepAlive keep(this);
-        gdiplus::GpBrush* made = nullptr;
-        const gdiplus::Status status = create(args..., &made);
-        return Adopt(status, made);
     }
     template <class Create, class... Args>
     bool MakeTexture(const Create& create, Args... args);

@@ -19,7 +19,7 @@ bool GpBrush::CreatePathBrushFromPath(gdiplus::GpPath* hGpPath) {
 }
 
 gdiplus::ARGB GpBrush::CenterColor() {
-    return Read<gdiplus::ARGB>(flat::GdipGetPathGradientCenterColor);
+    return Asked<gdiplus::ARGB>(flat::GdipGetPathGradientCenterColor);
 }
 
 void GpBrush::CenterColor(gdiplus::ARGB value) {
@@ -47,7 +47,7 @@ gdiplus::GpPath* GpBrush::Path() {
 void GpBrush::Path(gdiplus::GpPath* value) { flat::GdipSetPathGradientPath(handle_, value); }
 
 gdiplus::GpPointF GpBrush::CenterPoint() {
-    return Read<gdiplus::GpPointF>(flat::GdipGetPathGradientCenterPoint);
+    return Asked<gdiplus::GpPointF>(flat::GdipGetPathGradientCenterPoint);
 }
 
 void GpBrush::CenterPoint(const gdiplus::GpPointF& value) {
@@ -55,17 +55,17 @@ void GpBrush::CenterPoint(const gdiplus::GpPointF& value) {
 }
 
 gdiplus::GpPoint GpBrush::CenterPointI() {
-    return Read<gdiplus::GpPoint>(flat::GdipGetPathGradientCenterPointI);
+    return Asked<gdiplus::GpPoint>(flat::GdipGetPathGradientCenterPointI);
 }
 
 void GpBrush::CenterPointI(const gdiplus::GpPoint& value) {
     flat::GdipSetPathGradientCenterPointI(handle_, &value);
 }
 
-int32_t GpBrush::PointCount() { return Read<int32_t>(flat::GdipGetPathGradientPointCount); }
+int32_t GpBrush::PointCount() { return Asked<int32_t>(flat::GdipGetPathGradientPointCount); }
 
 int32_t GpBrush::SurroundColorCount() {
-    return Read<int32_t>(flat::GdipGetPathGradientSurroundColorCount);
+    return Asked<int32_t>(flat::GdipGetPathGradientSurroundColorCount);
 }
 
 gdiplus::Status GpBrush::GetFocusScales(float* xScale, float* yScale) {

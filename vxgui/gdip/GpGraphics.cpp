@@ -4,28 +4,17 @@
 
 namespace vxgui {
 
-gdiplus::GpGraphics* GpGraphics::Replaced(gdiplus::Status status, gdiplus::GpGraphics*& made) {
-    return Adopt(status, made) ? handle_ : nullptr;
-}
-
 gdiplus::GpGraphics* GpGraphics::FromHDC(gdi::HDC hDC) {
-    const KeepAlive keep(this);
-    gdiplus::GpGraphics* made = nullptr;
-    return Replaced(flat::GdipCreateFromHDC(hDC, &made), made);
+    return MakeHandle(flat::GdipCreateFromHDC, hDC);
 }
 
 gdiplus::GpGraphics* GpGraphics::FromHWND(HANDLE hWnd, bool icm) {
-    const KeepAlive keep(this);
-    gdiplus::GpGraphics* made = nullptr;
-    return Replaced(
-        icm ? flat::GdipCreateFromHWNDICM(hWnd, &made) : flat::GdipCreateFromHWND(hWnd, &made),
-        made);
+    return icm ? MakeHandle(flat::GdipCreateFromHWNDICM, hWnd)
+               : MakeHandle(flat::GdipCreateFromHWND, hWnd);
 }
 
 gdiplus::GpGraphics* GpGraphics::FromImage(gdiplus::GpImage* hImage) {
-    const KeepAlive keep(this);
-    gdiplus::GpGraphics* made = nullptr;
-    return Replaced(flat::GdipGetImageGraphicsContext(hImage, &made), made);
+    return MakeHandle(flat::GdipGetImageGraphicsContext, hImage);
 }
 
 gdiplus::GpGraphics* GpGraphics::FromScreen() {
@@ -44,17 +33,11 @@ bool GpGraphics::Flush(gdiplus::FlushIntention Intention) {
     return Check(flat::GdipFlush(handle_, Intention));
 }
 
-gdi::HDC GpGraphics::GetHDC() {
-    gdi::HDC dc = nullptr;
-    return Check(flat::GdipGetDC(handle_, &dc)) ? dc : nullptr;
-}
+gdi::HDC GpGraphics::GetHDC() { return Asked<gdi::HDC>(flat::GdipGetDC); }
 
 bool GpGraphics::ReleaseHDC(gdi::HDC hDC) { return Check(flat::GdipReleaseDC(handle_, hDC)); }
 
-uint32_t GpGraphics::Save() {
-    uint32_t state = 0;
-    return Check(flat::GdipSaveGraphics(handle_, &state)) ? state : 0;
-}
+uint32_t GpGraphics::Save() { return Asked<uint32_t>(flat::GdipSaveGraphics); }
 
 bool GpGraphics::Restore(uint32_t gstate) {
     return Check(flat::GdipRestoreGraphics(handle_, gstate));

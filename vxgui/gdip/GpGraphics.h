@@ -70,7 +70,7 @@ public:
                            gdiplus::MatrixOrder Order = gdiplus::MatrixOrderPrepend);
     bool SetTransform(const Ref<GpMatrix>& Matrix);
     /// The flat function gets no matrix to fill, so that this always fails with
-    /// `InvalidParameter`: that is meant.
+    /// `InvalidParameter`: that is meant. Where GDI+ isn't there, it gives an empty `Matrix`.
     bool GetTransform(Ref<GpMatrix>& Matrix);
 
     bool ResetClip();
@@ -129,14 +129,6 @@ public:
                          int32_t Height);
 
 private:
-    /// Replaces the handle by one that a flat call made; null when it failed.
-    gdiplus::GpGraphics* Replaced(gdiplus::Status status, gdiplus::GpGraphics*& made);
-    /// What a flat getter stores; 0 when it fails.
-    template <class Value, class Get>
-    Value Asked(const Get& get) {
-        Value value{};
-        return Check(get(handle_, &value)) ? value : Value{};
-    }
     /// Calls `draw(handle, pen, items, count)` with a copy of the caller's array.
     template <class Item, class Draw>
     bool DrawItems(gdiplus::GpPen* pen, const Item* items, int32_t count, const Draw& draw);

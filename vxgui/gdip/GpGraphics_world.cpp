@@ -20,10 +20,8 @@ bool GpGraphics::GetTransform(Ref<GpMatrix>& Matrix) {
     const KeepAlive keep(this);
     gdiplus::GpMatrix* matrix = nullptr;  // goes in as it is, which is meant
     if (!Check(flat::GdipGetWorldTransform(handle_, matrix))) return false;
-    if (!Matrix) {
-        Matrix = New<GpMatrix>();
-        Matrix->SetHandle(matrix);
-    }
+    if (!Matrix) Matrix = New<GpMatrix>();
+    Matrix->SetHandle(matrix);
     return true;
 }
 

@@ -6,22 +6,14 @@
 namespace vxgui {
 
 bool GpImage::FromFile(const String& Filename, bool UseEmbeddedColorManagement) {
-    const KeepAlive keep(this);
-    gdiplus::GpImage* image = nullptr;
-    return Adopt(UseEmbeddedColorManagement
-                     ? flat::GdipLoadImageFromFileICM(Filename.data(), &image)
-                     : flat::GdipLoadImageFromFile(Filename.data(), &image),
-                 image) &&
-           handle_;
+    const gdiplus::WCHAR* const name = Filename.data();
+    return UseEmbeddedColorManagement ? MakeHandle(flat::GdipLoadImageFromFileICM, name)
+                                      : MakeHandle(flat::GdipLoadImageFromFile, name);
 }
 
 bool GpImage::FromStream(gdiplus::IStream* Stream, bool UseEmbeddedColorManagement) {
-    const KeepAlive keep(this);
-    gdiplus::GpImage* image = nullptr;
-    return Adopt(UseEmbeddedColorManagement ? flat::GdipLoadImageFromStreamICM(Stream, &image)
-                                            : flat::GdipLoadImageFromStream(Stream, &image),
-                 image) &&
-           handle_;
+    return UseEmbeddedColorManagement ? MakeHandle(flat::GdipLoadImageFromStreamICM, Stream)
+                                      : MakeHandle(flat::GdipLoadImageFromStream, Stream);
 }
 
 bool GpImage::FromPtr(const void* lpMem, int32_t nSize, bool UseEmbeddedColorManagement) {
@@ -34,34 +26,29 @@ bool GpImage::FromByteArray(const ByteArray&, bool UseEmbeddedColorManagement) {
     return FromPtr(nullptr, 0, UseEmbeddedColorManagement);
 }
 
-template <class Value, class Get>
-Value GpImage::Read(const Get& get) {
-    const KeepAlive keep(this);
-    Value value{};
-    Check(get(handle_, &value));
-    return value;
-}
-
 bool GpImage::GetBounds(gdiplus::GpRectF& Bounds, gdiplus::Unit& Unit) {
+    Bounds = {};
+    Unit = {};
     return Check(flat::GdipGetImageBounds(handle_, &Bounds, &Unit));
 }
 
 bool GpImage::GetPhysicalDimension(float& Width, float& Height) {
+    Width = Height = 0;
     return Check(flat::GdipGetImageDimension(handle_, &Width, &Height));
 }
 
-gdiplus::ImageType GpImage::ImageType() { return Read<gdiplus::ImageType>(flat::GdipGetImageType); }
-int32_t GpImage::Width() { return static_cast<int32_t>(Read<UINT>(flat::GdipGetImageWidth)); }
-int32_t GpImage::Height() { return static_cast<int32_t>(Read<UINT>(flat::GdipGetImageHeight)); }
+gdiplus::ImageType GpImage::ImageType() { return Asked<gdiplus::ImageType>(flat::GdipGetImageType); }
+int32_t GpImage::Width() { return static_cast<int32_t>(Asked<UINT>(flat::GdipGetImageWidth)); }
+int32_t GpImage::Height() { return static_cast<int32_t>(Asked<UINT>(flat::GdipGetImageHeight)); }
 float GpImage::HorizontalResolution() {
-    return Read<float>(flat::GdipGetImageHorizontalResolution);
+    return Asked<float>(flat::GdipGetImageHorizontalResolution);
 }
-float GpImage::VerticalResolution() { return Read<float>(flat::GdipGetImageVerticalResolution); }
-uint32_t GpImage::Flags() { return Read<UINT>(flat::GdipGetImageFlags); }
-gdiplus::CLSID GpImage::FormatCLSID() { return Read<gdiplus::CLSID>(flat::GdipGetImageRawFormat); }
+float GpImage::VerticalResolution() { return Asked<float>(flat::GdipGetImageVerticalResolution); }
+uint32_t GpImage::Flags() { return Asked<UINT>(flat::GdipGetImageFlags); }
+gdiplus::CLSID GpImage::FormatCLSID() { return Asked<gdiplus::CLSID>(flat::GdipGetImageRawFormat); }
 String GpImage::Format() { return ClsidText(FormatCLSID()); }
 gdiplus::PixelFormat GpImage::PixelFormat() {
-    return Read<gdiplus::PixelFormat>(flat::GdipGetImagePixelFormat);
+    return Asked<gdiplus::PixelFormat>(flat::GdipGetImagePixelFormat);
 }
 
 Ref<GpImage> GpImage::GetThumbnailImage(int32_t thumbWidth, int32_t thumbHeight,
@@ -70,11 +57,9 @@ Ref<GpImage> GpImage::GetThumbnailImage(int32_t thumbWidth, int32_t thumbHeight,
     const KeepAlive keep(this);
     gdiplus::GpImage* image = nullptr;
     const auto width = static_cast<UINT>(thumbWidth), height = static_cast<UINT>(thumbHeight);
-    if (!Check(
-            flat::GdipGetImageThumbnail(handle_, width, height, &image, Callback, CallbackData))) {
-        return nullptr;
-    }
-    return Adopted(image);
+    const bool made = Check(
+        flat::GdipGetImageThumbnail(handle_, width, height, &image, Callback, CallbackData));
+    return made ? Holding<GpImage>(image) : nullptr;
 }
 
 bool GpImage::RotateFlip(gdiplus::RotateFlipType Type) {
@@ -82,7 +67,7 @@ bool GpImage::RotateFlip(gdiplus::RotateFlipType Type) {
 }
 
 uint32_t GpImage::FrameDimensionsCount() {
-    return Read<UINT>(flat::GdipImageGetFrameDimensionsCount);
+    return Asked<UINT>(flat::GdipImageGetFrameDimensionsCount);
 }
 
 bool GpImage::GetFrameDimensionsList(gdiplus::GUID* DimensionIDs, uint32_t Count) {
@@ -99,7 +84,7 @@ bool GpImage::SelectActiveFrame(const gdiplus::GUID* DimensionID, uint32_t Frame
     return Check(flat::GdipImageSelectActiveFrame(handle_, DimensionID, FrameIndex));
 }
 
-int32_t GpImage::PaletteSize() { return Read<int32_t>(flat::GdipGetImagePaletteSize); }
+int32_t GpImage::PaletteSize() { return Asked<int32_t>(flat::GdipGetImagePaletteSize); }
 
 bool GpImage::GetPalette(gdiplus::ColorPalette* Palette, int32_t Size) {
     return Check(flat::GdipGetImagePalette(handle_, Palette, Size));

@@ -92,9 +92,6 @@ private:
     /// By the cached encoder of a mime type, without parameters.
     bool SaveCached(const String& filename, const char* mime);
     bool SaveWithQuality(const String& filename, const char* mime, int32_t quality);
-    /// What `get(handle, &value)` stores; 0 on failure.
-    template <class Value, class Get>
-    Value Read(const Get& get);
 };
 
 }  // namespace vxgui

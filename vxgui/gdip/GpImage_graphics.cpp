@@ -6,10 +6,8 @@ namespace vxgui {
 Ref<GpGraphics> GpImage::graphics() {
     const KeepAlive keep(this);
     gdiplus::GpGraphics* made = nullptr;
-    if (!Check(flat::GdipGetImageGraphicsContext(handle_, &made)) || !made) return nullptr;
-    Ref<GpGraphics> result = New<GpGraphics>();
-    result->SetHandle(made);
-    return result;
+    if (!Check(flat::GdipGetImageGraphicsContext(handle_, &made))) return nullptr;
+    return Holding<GpGraphics>(made);
 }
 
 }  // namespace vxgui

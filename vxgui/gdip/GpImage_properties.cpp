@@ -2,11 +2,7 @@
 
 namespace vxgui {
 
-uint32_t GpImage::PropertyCount() {
-    UINT count = 0;
-    Check(flat::GdipGetPropertyCount(handle_, &count));
-    return count;
-}
+uint32_t GpImage::PropertyCount() { return Asked<UINT>(flat::GdipGetPropertyCount); }
 
 bool GpImage::GetPropertyIdList(uint32_t Count, gdiplus::PROPID* List) {
     return Check(flat::GdipGetPropertyIdList(handle_, Count, List));
@@ -24,6 +20,7 @@ bool GpImage::GetPropertyItem(gdiplus::PROPID PropId, uint32_t PropSize,
 }
 
 bool GpImage::GetPropertySize(uint32_t& TotalBufferSize, uint32_t& NumProperties) {
+    TotalBufferSize = NumProperties = 0;
     return Check(flat::GdipGetPropertySize(handle_, &TotalBufferSize, &NumProperties));
 }
 

@@ -35,6 +35,7 @@ bool GpImage::Save(const String& Filename, const gdiplus::CLSID* ClsidEncoder,
 
 bool GpImage::SaveToStream(gdiplus::IStream* Stream, const gdiplus::CLSID* ClsidEncoder,
                            const gdiplus::EncoderParameters* EncoderParams) {
+    const KeepAlive keep(this);
     return Check(flat::GdipSaveImageToStream(handle_, Stream, ClsidEncoder, EncoderParams));
 }
 

@@ -10,15 +10,13 @@ gdiplus::GpMatrix* GpMatrix::Handle() {
 }
 
 bool GpMatrix::CreateF(float m11, float m12, float m21, float m22, float dx, float dy) {
-    gdiplus::GpMatrix* made = nullptr;
-    return Adopt(flat::GdipCreateMatrix2(m11, m12, m21, m22, dx, dy, &made), made);
+    return Make(flat::GdipCreateMatrix2, m11, m12, m21, m22, dx, dy);
 }
 
 bool GpMatrix::CreateI(int32_t m11, int32_t m12, int32_t m21, int32_t m22, int32_t dx, int32_t dy) {
     const gdiplus::GpRect rect{m11, m12, m21, m22};
     const gdiplus::GpPoint points[] = {{dx, dy}, {0, m11}, {m12, m21}};
-    gdiplus::GpMatrix* made = nullptr;
-    return Adopt(flat::GdipCreateMatrix3I(&rect, points, &made), made);
+    return Make(flat::GdipCreateMatrix3I, &rect, points);
 }
 
 bool GpMatrix::SetElements(float m11, float m12, float m21, float m22, float dx, float dy) {
@@ -75,15 +73,9 @@ bool GpMatrix::TransformVectorsI(gdiplus::GpPoint* Points, int32_t Count) {
     return Transform(Points, Count, flat::GdipVectorTransformMatrixPointsI);
 }
 
-bool GpMatrix::IsInvertible() {
-    BOOL result = 0;
-    return Check(flat::GdipIsMatrixInvertible(Handle(), &result)) && result;
-}
+bool GpMatrix::IsInvertible() { return Asked<BOOL>(flat::GdipIsMatrixInvertible) != 0; }
 
-bool GpMatrix::IsIdentity() {
-    BOOL result = 0;
-    return Check(flat::GdipIsMatrixIdentity(Handle(), &result)) && result;
-}
+bool GpMatrix::IsIdentity() { return Asked<BOOL>(flat::GdipIsMatrixIdentity) != 0; }
 
 bool GpMatrix::Equals(const Ref<GpMatrix>& Matrix) {
     BOOL result = 0;

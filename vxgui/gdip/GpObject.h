@@ -22,6 +22,14 @@ protected:
         if (status != gdiplus::Ok) Status = status;
         return status == gdiplus::Ok;
     }
+    /// A new object around what a successful call made. That is null where GDI+ isn't there: the
+    /// object is empty then.
+    template <class Other, class Flat>
+    static Ref<Other> Holding(Flat* made) {
+        Ref<Other> result = New<Other>();
+        result->SetHandle(made);
+        return result;
+    }
 };
 
 /// A wrapper that owns one flat object. `Self` is the class itself, with a `static constexpr auto
@@ -42,7 +50,7 @@ public:
     Ref<Self> Clone() {
         Flat* copy = nullptr;
         if (!Check(Self::kClone(static_cast<Self*>(this)->Handle(), &copy))) return nullptr;
-        return Adopted(copy);
+        return GpObject::Holding<Self>(copy);
     }
 
 protected:
@@ -55,11 +63,25 @@ protected:
         static_cast<Self*>(this)->SetHandle(made);
         return true;
     }
-    static Ref<Self> Adopted(Flat* made) {
-        if (!made) return nullptr;
-        Ref<Self> result = New<Self>();
-        result->SetHandle(made);
-        return result;
+    /// Adopts what `create(arguments..., &made)` makes.
+    template <class Create, class... Args>
+    bool Make(const Create& create, Args... arguments) {
+        const KeepAlive keep(this);
+        Flat* made = nullptr;
+        const gdiplus::Status status = create(arguments..., &made);
+        return Adopt(status, made);
+    }
+    /// The same, answering the new handle, or null.
+    template <class Create, class... Args>
+    Flat* MakeHandle(const Create& create, Args... arguments) {
+        return Make(create, arguments...) ? handle_ : nullptr;
+    }
+    /// What `get(handle, &value)` stores, 0 when it fails.
+    template <class Value, class Get>
+    Value Asked(const Get& get) {
+        const KeepAlive keep(this);
+        Value value{};
+        return Check(get(static_cast<Self*>(this)->Handle(), &value)) ? value : Value{};
     }
 
     Flat* handle_ = nullptr;

@@ -8,8 +8,7 @@ gdiplus::GpPath* GpPath::Handle() {
 }
 
 bool GpPath::Create(gdiplus::FillMode FillMode) {
-    gdiplus::GpPath* made = nullptr;
-    return Adopt(flat::GdipCreatePath(FillMode, &made), made);
+    return Make(flat::GdipCreatePath, FillMode);
 }
 
 template <class Point, class Call>
@@ -18,8 +17,7 @@ bool GpPath::CreateFrom(const Point* points, const uint8_t* types, int32_t count
     const std::vector<Point> pointCopy = CopyOf(points, count);
     const std::vector<uint8_t> typeCopy = CopyOf(types, count);
     if (pointCopy.empty() || typeCopy.empty()) return false;
-    gdiplus::GpPath* made = nullptr;
-    return Adopt(call(pointCopy.data(), typeCopy.data(), count, mode, &made), made);
+    return Make(call, pointCopy.data(), typeCopy.data(), count, mode);
 }
 
 bool GpPath::CreatePoints(const gdiplus::GpPointF* Points, const uint8_t* Types, int32_t Count,
@@ -34,10 +32,7 @@ bool GpPath::CreatePointsI(const gdiplus::GpPoint* Points, const uint8_t* Types,
 
 bool GpPath::Reset() { return Check(flat::GdipResetPath(Handle())); }
 
-int32_t GpPath::PointCount() {
-    int32_t count = 0;
-    return Check(flat::GdipGetPointCount(Handle(), &count)) ? count : 0;
-}
+int32_t GpPath::PointCount() { return Asked<int32_t>(flat::GdipGetPointCount); }
 
 bool GpPath::GetPointTypes(uint8_t* Types, int32_t Count) {
     return Check(flat::GdipGetPathTypes(Handle(), Types, Count));
@@ -51,11 +46,7 @@ bool GpPath::GetPointPointsI(gdiplus::GpPoint* Points, int32_t Count) {
     return Check(flat::GdipGetPathPointsI(Handle(), Points, Count));
 }
 
-gdiplus::FillMode GpPath::FillMode() {
-    auto mode = gdiplus::FillModeAlternate;
-    Check(flat::GdipGetPathFillMode(Handle(), &mode));
-    return mode;
-}
+gdiplus::FillMode GpPath::FillMode() { return Asked<gdiplus::FillMode>(flat::GdipGetPathFillMode); }
 void GpPath::FillMode(gdiplus::FillMode value) {
     Check(flat::GdipSetPathFillMode(Handle(), value));
 }

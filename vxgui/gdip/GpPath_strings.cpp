@@ -1,4 +1,4 @@
-#include "vxgui/base/Error.h"
+#include "vxgui/base/Require.h"
 #include "vxgui/gdip/GpFont.h"
 #include "vxgui/gdip/GpPath.h"
 
@@ -23,10 +23,10 @@ gdiplus::Status GpPath::AddStringI(const String& Text, int32_t Length,
 template <class Rect, class Call>
 bool GpPath::AddWithFont(const String& text, const Ref<GpFont>& font,
                          gdiplus::GpStringFormat* format, const Rect& rect, const Call& call) {
-    if (!font) throw Error(ErrorNumber::ObjectNotSet, "GpPath.AddStringWithFont", "Object not set");
-    const Ref<GpFontFamily> family = font->FontFamily();
-    return Check(call(Handle(), text.data(), -1, family ? family->Handle() : nullptr, font->Style(),
-                      font->PathEmSize(), &rect, format));
+    GpFont& from = Require(font, "GpPath.AddStringWithFont");
+    const Ref<GpFontFamily> family = from.FontFamily();
+    return Check(call(Handle(), text.data(), -1, family ? family->Handle() : nullptr, from.Style(),
+                      from.PathEmSize(), &rect, format));
 }
 
 bool GpPath::AddStringWithFont(const String& Text, const Ref<GpFont>& Font,

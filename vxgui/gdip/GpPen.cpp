@@ -10,13 +10,11 @@ gdiplus::GpPen* GpPen::Handle() {
 }
 
 bool GpPen::Create(gdiplus::ARGB Color, float Width, gdiplus::Unit Unit) {
-    gdiplus::GpPen* made = nullptr;
-    return Adopt(flat::GdipCreatePen1(Color, Width, Unit, &made), made);
+    return Make(flat::GdipCreatePen1, Color, Width, Unit);
 }
 
 bool GpPen::CreateWithBrush(gdiplus::GpBrush* hGpBrush, float Width, gdiplus::Unit Unit) {
-    gdiplus::GpPen* made = nullptr;
-    return Adopt(flat::GdipCreatePen2(hGpBrush, Width, Unit, &made), made);
+    return Make(flat::GdipCreatePen2, hGpBrush, Width, Unit);
 }
 
 bool GpPen::SetWidth(float Width) { return Check(flat::GdipSetPenWidth(Handle(), Width)); }
@@ -64,10 +62,8 @@ void GpPen::Color(gdiplus::ARGB value) { Check(flat::GdipSetPenColor(Handle(), v
 
 Ref<GpBrush> GpPen::Brush() {
     gdiplus::GpBrush* copy = nullptr;
-    if (!Check(flat::GdipGetPenBrushFill(Handle(), &copy))) return nullptr;
-    Ref<GpBrush> brush = New<GpBrush>();
-    brush->SetHandle(copy);
-    return brush;
+    const bool got = Check(flat::GdipGetPenBrushFill(Handle(), &copy));
+    return got ? Holding<GpBrush>(copy) : nullptr;
 }
 void GpPen::Brush(const Ref<GpBrush>& value) {
     Check(flat::GdipSetPenBrushFill(Handle(), value ? value->Handle() : nullptr));

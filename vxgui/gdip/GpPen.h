@@ -77,12 +77,6 @@ public:
     bool SetCompoundArray(const float* Compound, int32_t Count);
 
 private:
-    /// What the flat function answers, 0 when it fails.
-    template <class Value, class Get>
-    Value Asked(const Get& get) {
-        Value value{};
-        return Check(get(Handle(), &value)) ? value : Value{};
-    }
     template <class Set>
     bool SetArray(const float* items, int32_t count, const Set& set) {
         const std::vector<float> copy = CopyOf(items, count);

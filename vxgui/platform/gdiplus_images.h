@@ -101,7 +101,10 @@ VXPLATFORM_API GpStatus GdipBitmapConvertFormat(GpBitmap* bitmap, PixelFormat fo
 VXPLATFORM_API GpStatus GdipBitmapGetHistogram(GpBitmap* bitmap, HistogramFormat format,
                                                UINT entries, UINT* channel0, UINT* channel1,
                                                UINT* channel2, UINT* channel3);
-VXPLATFORM_API GpStatus GdipBitmapGetHistogramSize(HistogramFormat format, UINT* entries);
+/// The entries that it takes. The bitmap stands in front, as callers here pass it, and doesn't
+/// count.
+VXPLATFORM_API GpStatus GdipBitmapGetHistogramSize(GpBitmap* bitmap, HistogramFormat format,
+                                                   UINT* entries);
 
 /// A 32-bit bottom-up DIB section with premultiplied colours over `background`, whose own alpha
 /// does not count; the alpha byte stays the pixel's.

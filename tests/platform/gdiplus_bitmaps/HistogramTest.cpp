@@ -52,13 +52,13 @@ TEST_F(Histogram, CountsEveryFormatsPixels) {
 TEST_F(Histogram, WantsTheRightNumberOfEntries) {
     for (int format = HistogramFormatARGB; format <= HistogramFormatA; ++format) {
         UINT entries = 0;
-        EXPECT_EQ(GdipBitmapGetHistogramSize(static_cast<HistogramFormat>(format), &entries), Ok);
+        EXPECT_EQ(GdipBitmapGetHistogramSize(nullptr, static_cast<HistogramFormat>(format), &entries), Ok);
         EXPECT_EQ(entries, 256u);
     }
     UINT entries = 0;
-    EXPECT_EQ(GdipBitmapGetHistogramSize(static_cast<HistogramFormat>(8), &entries),
+    EXPECT_EQ(GdipBitmapGetHistogramSize(nullptr, static_cast<HistogramFormat>(8), &entries),
               InvalidParameter);
-    EXPECT_EQ(GdipBitmapGetHistogramSize(HistogramFormatA, nullptr), InvalidParameter);
+    EXPECT_EQ(GdipBitmapGetHistogramSize(nullptr, HistogramFormatA, nullptr), InvalidParameter);
     GpBitmap* bitmap = Make(1, 1, PixelFormat32bppARGB);
     UINT counts[256];
     EXPECT_EQ(

@@ -8,7 +8,7 @@ namespace vxgui::gdiplus {
 
 extern "C" {
 
-GpStatus GdipBitmapGetHistogramSize(HistogramFormat format, UINT* entries) {
+GpStatus GdipBitmapGetHistogramSize(GpBitmap*, HistogramFormat format, UINT* entries) {
     if (!entries || ChannelCount(format) == 0) return InvalidParameter;
     *entries = kHistogramEntries;
     return Ok;
