@@ -27,9 +27,14 @@ public:
         : WrappedBrush(wrap), line(line), colors{first, second} {}
     LineBrush(const LineBrush&) = default;
 
+    /// A line has no end to stop at, so that clamping is no mode of it.
+    static constexpr bool Takes(WrapMode wrap) { return IsWrap(wrap) && wrap != WrapModeClamp; }
+
     BrushType Type() const override { return BrushTypeLinearGradient; }
     Ref<Brush> Clone() const override { return New<LineBrush>(*this); }
     Pattern MakePattern(const PatternPlace& place) const override;
+
+    const GpRectF& Rect() const { return line.rect; }
 
     const GradientLine line;
     ARGB colors[2];

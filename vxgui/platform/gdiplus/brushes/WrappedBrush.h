@@ -4,9 +4,14 @@
 
 namespace vxgui::gdiplus {
 
+constexpr bool IsWrap(WrapMode wrap) { return wrap >= WrapModeTile && wrap <= WrapModeClamp; }
+
 /// A brush with a place of its own in the world and something beyond it.
 class WrappedBrush : public Brush {
 public:
+    /// Whether a mode is one of the kind's.
+    static constexpr bool Takes(WrapMode wrap) { return IsWrap(wrap); }
+
     WrapMode Wrap() const { return wrap_; }
     virtual void Wrap(WrapMode wrap) { wrap_ = wrap; }
 
@@ -20,8 +25,6 @@ protected:
 private:
     WrapMode wrap_;
 };
-
-constexpr bool IsWrap(WrapMode wrap) { return wrap >= WrapModeTile && wrap <= WrapModeClamp; }
 
 /// Every other copy is the mirror image of the one beside it, or of the one above it.
 constexpr bool FlipsX(WrapMode wrap) {

@@ -1,4 +1,5 @@
-#include "vxgui/platform/gdiplus/Coordinates.h"
+#include <algorithm>
+
 #include "vxgui/platform/gdiplus/FlatAccess.h"
 #include "vxgui/platform/gdiplus/brushes/LineBrush.h"
 #include "vxgui/platform/gdiplus_gradient.h"
@@ -18,15 +19,6 @@ GpStatus GdipGetLineColors(GpBrush* brush, ARGB* colors) {
     if (!colors) return InvalidParameter;
     return FlatSet<LineBrush>(brush,
                               [&](LineBrush& found) { std::ranges::copy(found.colors, colors); });
-}
-
-GpStatus GdipGetLineRect(GpBrush* brush, GpRectF* rect) {
-    return FlatGet<LineBrush>(brush, rect, [](LineBrush& found) { return found.line.rect; });
-}
-
-GpStatus GdipGetLineRectI(GpBrush* brush, GpRect* rect) {
-    return FlatGet<LineBrush>(brush, rect,
-                              [](LineBrush& found) { return RoundRect(found.line.rect); });
 }
 
 }  // extern "C"

@@ -11,10 +11,9 @@ struct Ends {
     WrapMode wrap;
 };
 
-// A line has no end to stop at, so that clamping is no mode of it.
 GpStatus Create(const std::optional<GradientLine>& line, const Ends& ends, GpStatus withoutLine,
                 GpBrush** result) {
-    if (!IsWrap(ends.wrap) || ends.wrap == WrapModeClamp) return InvalidParameter;
+    if (!LineBrush::Takes(ends.wrap)) return InvalidParameter;
     if (!line) return withoutLine;
     return HandOut(result, New<LineBrush>(*line, ends.first, ends.second, ends.wrap));
 }

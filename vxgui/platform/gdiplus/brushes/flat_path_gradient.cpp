@@ -87,15 +87,6 @@ GpStatus GdipSetPathGradientCenterPointI(GpBrush* brush, const GpPoint* point) {
     return point ? SetCenter(brush, ToFloat(*point)) : InvalidParameter;
 }
 
-GpStatus GdipGetPathGradientRect(GpBrush* brush, GpRectF* rect) {
-    return FlatGet<PathBrush>(brush, rect, [](PathBrush& found) { return found.Rect(); });
-}
-
-GpStatus GdipGetPathGradientRectI(GpBrush* brush, GpRect* rect) {
-    return FlatGet<PathBrush>(brush, rect,
-                              [](PathBrush& found) { return RoundRect(found.Rect()); });
-}
-
 GpStatus GdipGetPathGradientFocusScales(GpBrush* brush, REAL* xScale, REAL* yScale) {
     if (!xScale || !yScale) return InvalidParameter;
     return FlatSet<PathBrush>(brush, [&](PathBrush& found) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
-#include "vxgui/platform/gdiplus/graphics/Units.h"
+#include "vxgui/platform/gdiplus/Units.h"
 
 namespace vxgui::gdiplus {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "vxgui/platform/gdiplus/Coordinates.h"
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus/graphics/GraphicsCall.h"
 #include "vxgui/platform/gdiplus/graphics/ImagePart.h"
-#include "vxgui/platform/gdiplus/graphics/Units.h"
 
 namespace vxgui::gdiplus {
 

@@ -1,6 +1,6 @@
 #include "vxgui/platform/gdiplus/Coordinates.h"
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus/graphics/GraphicsCall.h"
-#include "vxgui/platform/gdiplus/graphics/Units.h"
 #include "vxgui/platform/gdiplus_graphics.h"
 
 namespace vxgui::gdiplus {

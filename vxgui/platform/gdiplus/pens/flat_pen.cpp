@@ -1,12 +1,11 @@
 #include "vxgui/platform/gdiplus/FlatAccess.h"
 #include "vxgui/platform/gdiplus/Pen.h"
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus/brushes/SolidBrush.h"
 #include "vxgui/platform/gdiplus_pen.h"
 
 namespace vxgui::gdiplus {
 namespace {
-
-bool IsUnit(Unit unit) { return unit >= UnitWorld && unit <= UnitMillimeter; }
 
 GpStatus Create(Ref<Brush> brush, REAL width, Unit unit, GpPen** pen) {
     if (!IsUnit(unit)) return InvalidParameter;
@@ -40,23 +39,6 @@ GpStatus GdipClonePen(GpPen* pen, GpPen** clonepen) {
 }
 
 GpStatus GdipDeletePen(GpPen* pen) { return FlatDelete<Pen>(pen); }
-
-GpStatus GdipSetPenWidth(GpPen* pen, REAL width) {
-    return FlatSet<Pen>(pen, [&](Pen& found) { found.width = width; });
-}
-
-GpStatus GdipGetPenWidth(GpPen* pen, REAL* width) {
-    return FlatGet<Pen>(pen, width, [](Pen& found) { return found.width; });
-}
-
-GpStatus GdipSetPenUnit(GpPen* pen, Unit unit) {
-    if (!IsUnit(unit)) return InvalidParameter;
-    return FlatSet<Pen>(pen, [&](Pen& found) { found.unit = unit; });
-}
-
-GpStatus GdipGetPenUnit(GpPen* pen, Unit* unit) {
-    return FlatGet<Pen>(pen, unit, [](Pen& found) { return found.unit; });
-}
 
 GpStatus GdipSetPenColor(GpPen* pen, ARGB argb) {
     return FlatSet<Pen>(pen, [&](Pen& found) { found.brush = New<SolidBrush>(argb); });

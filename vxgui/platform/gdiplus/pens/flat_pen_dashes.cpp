@@ -50,14 +50,6 @@ GpStatus GdipGetPenDashStyle(GpPen* pen, DashStyle* dashStyle) {
     return FlatGet<Pen>(pen, dashStyle, [](Pen& found) { return found.dashStyle; });
 }
 
-GpStatus GdipSetPenDashOffset(GpPen* pen, REAL offset) {
-    return FlatSet<Pen>(pen, [&](Pen& found) { found.dashOffset = offset; });
-}
-
-GpStatus GdipGetPenDashOffset(GpPen* pen, REAL* offset) {
-    return FlatGet<Pen>(pen, offset, [](Pen& found) { return found.dashOffset; });
-}
-
 GpStatus GdipGetPenDashCount(GpPen* pen, INT* count) {
     return FlatGet<Pen>(pen, count,
                         [](Pen& found) { return static_cast<INT>(found.dashes.size()); });

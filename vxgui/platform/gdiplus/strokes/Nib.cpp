@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numbers>
 
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus/strokes/Caps.h"
 
 namespace vxgui::gdiplus {
@@ -11,22 +12,6 @@ namespace {
 Affine WithoutShift(Affine a) {
     a.dx = a.dy = 0;
     return a;
-}
-
-/// Pixels a unit; for a unit of the world, 1.
-REAL PixelsOf(Unit unit, REAL dpi) {
-    switch (unit) {
-        case UnitPoint:
-            return dpi / 72;
-        case UnitInch:
-            return dpi;
-        case UnitDocument:
-            return dpi / 300;
-        case UnitMillimeter:
-            return dpi / 25.4f;
-        default:
-            return 1;
-    }
 }
 
 }  // namespace
@@ -42,7 +27,7 @@ std::optional<Nib> NibOf(const PenSettings& pen, const StrokePlace& place, REAL 
     if (!inverse) return {};
     nib.toSpace = *inverse;
     nib.pixels = MeanScale(nib.space * device);
-    nib.width = std::max(pen.width * PixelsOf(pen.unit, place.dpi), thinnest / nib.pixels);
+    nib.width = std::max(pen.width * PixelsPer(pen.unit, place.dpi), thinnest / nib.pixels);
     if (!(nib.width > 0)) return {};
     return nib;
 }

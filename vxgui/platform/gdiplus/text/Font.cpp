@@ -3,6 +3,7 @@
 #include "vxgui/base/String.h"
 #include "vxgui/platform/gdi/text/FontChoice.h"
 #include "vxgui/platform/gdi/text/FontScale.h"
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus/text/FontEngine.h"
 
 namespace vxgui::gdiplus {
@@ -30,18 +31,8 @@ REAL EmOf(const FontFamily& family, INT style, LONG height) {
 }  // namespace
 
 double Font::SizeInPixels(double dpi) const {
-    switch (unit) {
-        case UnitPoint:
-            return size * dpi / 72;
-        case UnitInch:
-            return size * dpi;
-        case UnitDocument:
-            return size * dpi / 300;
-        case UnitMillimeter:
-            return size * dpi / 25.4;
-        default:
-            return size;
-    }
+    const double units = UnitsPerInch(unit);
+    return units > 0 ? size * dpi / units : size;
 }
 
 double Font::LineHeight(double em) const { return MetricsOf(*family, style).LineSpacing(em); }

@@ -1,10 +1,13 @@
 #include "vxgui/platform/gdiplus/FlatAccess.h"
 #include "vxgui/platform/gdiplus/Pen.h"
+#include "vxgui/platform/gdiplus/Units.h"
 #include "vxgui/platform/gdiplus_pen.h"
 
 namespace vxgui::gdiplus {
 namespace {
 
+bool IsKnown(REAL) { return true; }
+bool IsKnown(Unit unit) { return IsUnit(unit); }
 bool IsKnown(LineCap cap) {
     return (cap >= LineCapFlat && cap <= LineCapTriangle) ||
            (cap >= LineCapNoAnchor && cap <= LineCapArrowAnchor) || cap == LineCapCustom;
@@ -31,6 +34,24 @@ GpStatus Get(GpPen* pen, Value PenSettings::*field, Value* value) {
 
 extern "C" {
 
+/// The setter and the getter of a field, by the field's name in theirs.
+#define VXGUI_PEN_FIELD(Name, field)                                             \
+    GpStatus GdipSetPen##Name(GpPen* pen, decltype(PenSettings::field) value) {  \
+        return Set(pen, &PenSettings::field, value);                             \
+    }                                                                            \
+    GpStatus GdipGetPen##Name(GpPen* pen, decltype(PenSettings::field)* value) { \
+        return Get(pen, &PenSettings::field, value);                             \
+    }
+
+VXGUI_PEN_FIELD(Width, width)
+VXGUI_PEN_FIELD(Unit, unit)
+VXGUI_PEN_FIELD(StartCap, startCap)
+VXGUI_PEN_FIELD(EndCap, endCap)
+VXGUI_PEN_FIELD(DashCap197819, dashCap)
+VXGUI_PEN_FIELD(LineJoin, lineJoin)
+VXGUI_PEN_FIELD(Mode, alignment)
+VXGUI_PEN_FIELD(DashOffset, dashOffset)
+
 GpStatus GdipSetPenLineCap197819(GpPen* pen, LineCap startCap, LineCap endCap, DashCap dashCap) {
     if (!IsKnown(startCap) || !IsKnown(endCap) || !IsKnown(dashCap)) return InvalidParameter;
     return FlatSet<Pen>(pen, [&](Pen& found) {
@@ -40,49 +61,9 @@ GpStatus GdipSetPenLineCap197819(GpPen* pen, LineCap startCap, LineCap endCap, D
     });
 }
 
-GpStatus GdipSetPenStartCap(GpPen* pen, LineCap startCap) {
-    return Set(pen, &PenSettings::startCap, startCap);
-}
-
-GpStatus GdipGetPenStartCap(GpPen* pen, LineCap* startCap) {
-    return Get(pen, &PenSettings::startCap, startCap);
-}
-
-GpStatus GdipSetPenEndCap(GpPen* pen, LineCap endCap) {
-    return Set(pen, &PenSettings::endCap, endCap);
-}
-
-GpStatus GdipGetPenEndCap(GpPen* pen, LineCap* endCap) {
-    return Get(pen, &PenSettings::endCap, endCap);
-}
-
-GpStatus GdipSetPenDashCap197819(GpPen* pen, DashCap dashCap) {
-    return Set(pen, &PenSettings::dashCap, dashCap);
-}
-
-GpStatus GdipGetPenDashCap197819(GpPen* pen, DashCap* dashCap) {
-    return Get(pen, &PenSettings::dashCap, dashCap);
-}
-
-GpStatus GdipSetPenLineJoin(GpPen* pen, LineJoin lineJoin) {
-    return Set(pen, &PenSettings::lineJoin, lineJoin);
-}
-
-GpStatus GdipGetPenLineJoin(GpPen* pen, LineJoin* lineJoin) {
-    return Get(pen, &PenSettings::lineJoin, lineJoin);
-}
-
-GpStatus GdipSetPenMode(GpPen* pen, PenAlignment penMode) {
-    return Set(pen, &PenSettings::alignment, penMode);
-}
-
-GpStatus GdipGetPenMode(GpPen* pen, PenAlignment* penMode) {
-    return Get(pen, &PenSettings::alignment, penMode);
-}
-
+// Below 1 it is 1, as published.
 GpStatus GdipSetPenMiterLimit(GpPen* pen, REAL miterLimit) {
-    return FlatSet<Pen>(pen,
-                        [&](Pen& found) { found.miterLimit = miterLimit > 1 ? miterLimit : 1; });
+    return Set(pen, &PenSettings::miterLimit, miterLimit > 1 ? miterLimit : 1);
 }
 
 GpStatus GdipGetPenMiterLimit(GpPen* pen, REAL* miterLimit) {
