@@ -49,9 +49,7 @@ TEST_F(BitmapCalls, OfCreation) {
     const gdi::BITMAPINFO info{};
     BYTE pixel[4]{};
     Are("GdipCreateBitmapFromScan0(5, 6, 20, 2498570, out, out); GdipDisposeImage(#1)",
-        [&](GpBitmap& b) {
-            return b.FromScan0(5, 6, 20, gdiplus::PixelFormat32bppARGB, pixel);
-        });
+        [&](GpBitmap& b) { return b.FromScan0(5, 6, 20, gdiplus::PixelFormat32bppARGB, pixel); });
     Are("GdipCreateBitmapFromGraphics(5, 6, #7, out); GdipDisposeImage(#1)",
         [](GpBitmap& b) { return b.FromGraphics(5, 6, Handle<gdiplus::GpGraphics>(7)); });
     Are("GdipCreateBitmapFromDirectDrawSurface(#7, out); GdipDisposeImage(#1)",
@@ -62,9 +60,8 @@ TEST_F(BitmapCalls, OfCreation) {
         return b.FromHBITMAP(Handle<std::remove_pointer_t<gdi::HBITMAP>>(7),
                              Handle<std::remove_pointer_t<gdi::HPALETTE>>(8));
     });
-    Are("GdipCreateBitmapFromHICON(#7, out); GdipDisposeImage(#1)", [](GpBitmap& b) {
-        return b.FromHICON(Handle<std::remove_pointer_t<gdi::HICON>>(7));
-    });
+    Are("GdipCreateBitmapFromHICON(#7, out); GdipDisposeImage(#1)",
+        [](GpBitmap& b) { return b.FromHICON(Handle<std::remove_pointer_t<gdi::HICON>>(7)); });
     Are("GdipCreateBitmapFromResource(#7, 'a', out); GdipDisposeImage(#1)", [](GpBitmap& b) {
         return b.FromResource(Handle<std::remove_pointer_t<kernel::HMODULE>>(7), "a");
     });
@@ -223,7 +220,8 @@ TEST_F(BitmapCalls, ThatAnswerTheStatusHaveTheHandleInFront) {
     Are("GdipBitmapApplyEffect(#1, #2, out, 1, 0, out)",
         [&](GpBitmap& b) { return b.ApplyEffect(effect_, &area, true, nullptr, &size); });
     Are("GdipBitmapGetHistogram(#1, 5, 6, out, out, out, 0)", [&](GpBitmap& b) {
-        return b.GetHistogram(gdiplus::HistogramFormatG, 6, counts, counts + 1, counts + 2, nullptr);
+        return b.GetHistogram(gdiplus::HistogramFormatG, 6, counts, counts + 1, counts + 2,
+                              nullptr);
     });
     Are("GdipBitmapGetHistogramSize(#1, 5, out)",
         [&](GpBitmap& b) { return b.GetHistogramSize(gdiplus::HistogramFormatG, &entries); });

@@ -82,8 +82,7 @@ TEST_F(BrushCalls, OfColoursAndHatches) {
     Are("GdipGetHatchStyle(#1, out)", [](GpBrush& b) { return b.GetHatchStyle(); });
     Are("GdipGetHatchForegroundColor(#1, out)", [](GpBrush& b) { return b.GetForegroundColor(); });
     Are("GdipGetHatchBackgroundColor(#1, out)", [](GpBrush& b) { return b.GetBackgroundColor(); });
-    Are("GdipCloneBrush(#1, out); GdipGetBrushType(#9, out)",
-        [](GpBrush& b) { return b.Clone(); });
+    Are("GdipCloneBrush(#1, out); GdipGetBrushType(#9, out)", [](GpBrush& b) { return b.Clone(); });
 }
 
 TEST_F(BrushCalls, SetAColourInPlaceOnASolidBrushOnly) {
@@ -102,10 +101,12 @@ TEST_F(BrushCalls, OfLineBrushes) {
          [](GpBrush& b) { return b.CreateLineBrush(7, 8, 1, 2, 3, 4.5f); });
     Make("GdipCreateLineBrushFromRect({1 2 3 4.5}, 7, 8, 2, 1, out)",
          [](GpBrush& b) { return b.CreateLineBrush(7, 8, 1, 2, 3, 4.5f, kDiagonal, kFlipX); });
-    Make("GdipCreateLineBrush({1.5 2}, {3 4}, 7, 8, 0, out)",
-         [&](GpBrush& b) { return b.CreateLineBrushF(point, {3, 4}, 7, 8); });
-    Make("GdipCreateLineBrushI({1 2}, {3 4}, 7, 8, 1, out)",
-         [&](GpBrush& b) { return b.CreateLineBrushI(pointI, {3, 4}, 7, 8, kFlipX); });
+    Make("GdipCreateLineBrush({1.5 2}, {3 4}, 7, 8, 0, out)", [&](GpBrush& b) {
+        return b.CreateLineBrushF(point, {3, 4}, 7, 8);
+    });
+    Make("GdipCreateLineBrushI({1 2}, {3 4}, 7, 8, 1, out)", [&](GpBrush& b) {
+        return b.CreateLineBrushI(pointI, {3, 4}, 7, 8, kFlipX);
+    });
     Make("GdipCreateLineBrushFromRect({1 2 3 4.5}, 7, 8, 0, 0, out)",
          [&](GpBrush& b) { return b.CreateLineBrushRectF(rect, 7, 8); });
     Make("GdipCreateLineBrushFromRect({1 2 3 4.5}, 7, 8, 2, 1, out)",
@@ -117,9 +118,7 @@ TEST_F(BrushCalls, OfLineBrushes) {
     Make("GdipCreateLineBrushFromRectWithAngleI({1 2 3 4}, 7, 8, 30, 0, 0, out)",
          [&](GpBrush& b) { return b.CreateLineBrushRectWithAngleI(rectI, 7, 8, 30); });
     Make("GdipCreateLineBrushFromRectWithAngle({1 2 3 4.5}, 7, 8, 30, 1, 1, out)",
-         [&](GpBrush& b) {
-             return b.CreateLineBrushRectWithAngleF(rect, 7, 8, 30, true, kFlipX);
-         });
+         [&](GpBrush& b) { return b.CreateLineBrushRectWithAngleF(rect, 7, 8, 30, true, kFlipX); });
     gdiplus::ARGB colors[2];
     Are("GdipSetLineColors(#1, 7, 8)", [](GpBrush& b) { return b.SetLinearColors(7, 8); });
     Are("GdipGetLineColors(#1, out)", [&](GpBrush& b) { return b.GetLinearColors(colors); });
@@ -132,8 +131,7 @@ TEST_F(BrushCalls, OfBothGradients) {
     gdiplus::ARGB colors[] = {7, 8};
     OfBoth("GdipGet%Rect(#1, {0 0 0 0})", [&](GpBrush& b) { return b.GetRectangle(&rect); });
     OfBoth("GdipGet%RectI(#1, {0 0 0 0})", [&](GpBrush& b) { return b.GetRectangleI(&rectI); });
-    OfBoth("GdipSet%GammaCorrection(#1, 1)",
-           [](GpBrush& b) { return b.SetGammaCorrection(true); });
+    OfBoth("GdipSet%GammaCorrection(#1, 1)", [](GpBrush& b) { return b.SetGammaCorrection(true); });
     OfBoth("GdipGet%GammaCorrection(#1, out)", [](GpBrush& b) { return b.GetGammaCorrection(); });
     OfBoth("GdipGet%BlendCount(#1, out)", [](GpBrush& b) { return b.GetBlendCount(); });
     OfBoth("GdipSet%Blend(#1, {1.5}, {0.5}, 2)",
@@ -230,10 +228,12 @@ TEST_F(BrushCalls, OfColoursAndPointsOfPathBrushes) {
         [&](GpBrush& b) { return b.GetSurroundColors(colors, count); });
     EXPECT_EQ(count, kStored);
     AreUnkept("GdipSetPathGradientPath(#1, #3)", [&](GpBrush& b) { b.Path(path_); });
-    AreUnkept("GdipSetPathGradientCenterPoint(#1, {1.5 2})",
-              [](GpBrush& b) { b.CenterPoint({1.5f, 2}); });
-    AreUnkept("GdipSetPathGradientCenterPointI(#1, {1 2})",
-              [](GpBrush& b) { b.CenterPointI({1, 2}); });
+    AreUnkept("GdipSetPathGradientCenterPoint(#1, {1.5 2})", [](GpBrush& b) {
+        b.CenterPoint({1.5f, 2});
+    });
+    AreUnkept("GdipSetPathGradientCenterPointI(#1, {1 2})", [](GpBrush& b) {
+        b.CenterPointI({1, 2});
+    });
     Are("GdipGetPathGradientCenterPoint(#1, {0 0})", [](GpBrush& b) { b.CenterPoint(); });
     Are("GdipGetPathGradientCenterPointI(#1, {0 0})", [](GpBrush& b) { b.CenterPointI(); });
     Are("GdipGetPathGradientPointCount(#1, out)", [](GpBrush& b) { return b.PointCount(); });

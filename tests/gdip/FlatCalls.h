@@ -22,7 +22,7 @@ protected:
         using Answer = decltype(run(*object_));
         RunWith(calls, run, gdiplus::Ok, gdiplus::Ok);
         RunWith(calls, run, gdiplus::WrongState,
-             std::is_same_v<Answer, gdiplus::Status> ? gdiplus::Ok : gdiplus::WrongState);
+                std::is_same_v<Answer, gdiplus::Status> ? gdiplus::Ok : gdiplus::WrongState);
     }
     /// The same for an operation that doesn't keep a failure.
     template <class Run>

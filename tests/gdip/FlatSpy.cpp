@@ -16,7 +16,9 @@ std::string gCalls;
 template <class T>
 concept Number = std::is_arithmetic_v<T> || std::is_enum_v<T>;
 template <class T>
-concept Complete = requires { sizeof(T); };
+concept Complete = requires {
+    sizeof(T);
+};
 
 std::string Shown(double number) {
     char text[32];
@@ -26,7 +28,7 @@ std::string Shown(double number) {
 std::string Shown(const gdiplus::GpPoint& p) { return "{" + Shown(p.X) + " " + Shown(p.Y) + "}"; }
 std::string Shown(const gdiplus::GpPointF& p) { return "{" + Shown(p.X) + " " + Shown(p.Y) + "}"; }
 template <class Rect>
-    requires requires(Rect r) { r.Width, r.X; }
+requires requires(Rect r) { r.Width, r.X; }
 std::string Shown(const Rect& r) {
     return "{" + Shown(r.X) + " " + Shown(r.Y) + " " + Shown(r.Width) + " " + Shown(r.Height) + "}";
 }
@@ -60,7 +62,8 @@ std::string ShownArgument(T argument) {
     } else {
         using Target = std::remove_pointer_t<T>;
         if (!argument) return "0";
-        if constexpr (std::is_function_v<Target>) return "function";
+        if constexpr (std::is_function_v<Target>)
+            return "function";
         else if constexpr (!Complete<Target> || std::is_same_v<Target, gdiplus::IStream>) {
             return ShownHandle(argument);
         } else {
@@ -97,8 +100,10 @@ struct Spied<Stub<Binder, R(A...)>> {
         ((shown += (shown.empty() ? "" : ", ") + ShownArgument(arguments)), ...);
         gCalls += (gCalls.empty() ? "" : "; ") + std::string(name_) + "(" + shown + ")";
         if (gAnswer == gdiplus::Ok) (StoreIn(arguments), ...);
-        if constexpr (std::is_same_v<R, gdiplus::GpStatus>) return gAnswer;
-        else return R();
+        if constexpr (std::is_same_v<R, gdiplus::GpStatus>)
+            return gAnswer;
+        else
+            return R();
     }
 
     static inline const char* name_ = "";

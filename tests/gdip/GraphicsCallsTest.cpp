@@ -130,8 +130,7 @@ TEST_F(GraphicsCalls, OfTheWorldAndTheClip) {
     Are("GdipRotateWorldTransform(#1, 30, 1)",
         [](G& g) { return g.RotateTransform(30, gdiplus::MatrixOrderAppend); });
     const auto matrix = With<GpMatrix, gdiplus::GpMatrix>(6);
-    Are("GdipMultiplyWorldTransform(#1, #6, 0)",
-        [&](G& g) { return g.MultiplyTransform(matrix); });
+    Are("GdipMultiplyWorldTransform(#1, #6, 0)", [&](G& g) { return g.MultiplyTransform(matrix); });
     Are("GdipMultiplyWorldTransform(#1, #6, 1)",
         [&](G& g) { return g.MultiplyTransform(matrix, gdiplus::MatrixOrderAppend); });
     Are("GdipSetWorldTransform(#1, #6)", [&](G& g) { return g.SetTransform(matrix); });
@@ -212,8 +211,7 @@ TEST_F(ImageDrawingCalls, AskForNoMoreThanIsLeftOut) {
 TEST_F(ImageDrawingCalls, HandOnAllElseAsItIs) {
     const auto abort = [](void*) -> int32_t { return 0; };
     EXPECT_TRUE(object_->DrawBitmap(bitmap_, -1, -2, -3, 0, -5, -6, 0, -8, gdiplus::UnitInch,
-                                    Handle<gdiplus::GpImageAttributes>(6), abort,
-                                    Handle<void>(5)));
+                                    Handle<gdiplus::GpImageAttributes>(6), abort, Handle<void>(5)));
     EXPECT_EQ(spy_.Taken(),
               "GdipDrawImageRectRectI(#1, #8, -1, -2, -3, 0, -5, -6, 0, -8, 4, #6, function, #5)");
     const auto image = With<GpImage, gdiplus::GpImage>(7);

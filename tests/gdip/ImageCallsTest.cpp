@@ -109,8 +109,7 @@ TEST_F(ImageCalls, OfFramesAndPalettes) {
         [](GpImage& i) { return i.FrameDimensionsCount(); });
     Are("GdipImageGetFrameDimensionsList(#1, {5}, 2)",
         [&](GpImage& i) { return i.GetFrameDimensionsList(ids, 2); });
-    Are("GdipImageGetFrameCount(#1, {5}, out)",
-        [&](GpImage& i) { return i.GetFrameCount(&id_); });
+    Are("GdipImageGetFrameCount(#1, {5}, out)", [&](GpImage& i) { return i.GetFrameCount(&id_); });
     Are("GdipImageSelectActiveFrame(#1, {5}, 2)",
         [&](GpImage& i) { return i.SelectActiveFrame(&id_, 2); });
     Are("GdipGetImagePaletteSize(#1, out)", [](GpImage& i) { return i.PaletteSize(); });
@@ -124,8 +123,7 @@ TEST_F(ImageCalls, OfProperties) {
     Are("GdipGetPropertyCount(#1, out)", [](GpImage& i) { return i.PropertyCount(); });
     Are("GdipGetPropertyIdList(#1, 2, out)",
         [&](GpImage& i) { return i.GetPropertyIdList(2, ids); });
-    Are("GdipGetPropertyItemSize(#1, 7, out)",
-        [](GpImage& i) { return i.GetPropertyItemSize(7); });
+    Are("GdipGetPropertyItemSize(#1, 7, out)", [](GpImage& i) { return i.GetPropertyItemSize(7); });
     Are("GdipGetPropertyItem(#1, 7, 8, out)",
         [&](GpImage& i) { return i.GetPropertyItem(7, 8, items); });
     Are("GdipGetAllPropertyItems(#1, 7, 2, out)",

@@ -136,8 +136,9 @@ TEST_F(PathCalls, OfOtherPathsAndTexts) {
     Are("GdipAddPathString(#1, 'ab', 1, #6, 2, 10.5, {1 2 3 4.5}, #7)", [&](GpPath& p) {
         return p.AddString("ab", 1, family, 2, 10.5f, {1, 2, 3, 4.5f}, format);
     });
-    Are("GdipAddPathStringI(#1, 'ab', 1, #6, 2, 10.5, {1 2 3 4}, 0)",
-        [&](GpPath& p) { return p.AddStringI("ab", 1, family, 2, 10.5f, {1, 2, 3, 4}); });
+    Are("GdipAddPathStringI(#1, 'ab', 1, #6, 2, 10.5, {1 2 3 4}, 0)", [&](GpPath& p) {
+        return p.AddStringI("ab", 1, family, 2, 10.5f, {1, 2, 3, 4});
+    });
 }
 
 TEST_F(PathCalls, OfChangesOfTheWhole) {

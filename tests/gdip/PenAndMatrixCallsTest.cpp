@@ -77,7 +77,8 @@ TEST_F(PenCalls, OfTheTransform) {
     Are("GdipSetPenTransform(#1, #5)", [&](GpPen& p) { p.Transform(matrix); });
     Are("GdipSetPenTransform(#1, 0)", [](GpPen& p) { p.Transform(nullptr); });
     Are("GdipResetPenTransform(#1)", [](GpPen& p) { return p.ResetTransform(); });
-    Are("GdipMultiplyPenTransform(#1, #5, 0)", [&](GpPen& p) { return p.MultiplyTransform(matrix); });
+    Are("GdipMultiplyPenTransform(#1, #5, 0)",
+        [&](GpPen& p) { return p.MultiplyTransform(matrix); });
     Are("GdipMultiplyPenTransform(#1, #5, 1)",
         [&](GpPen& p) { return p.MultiplyTransform(matrix, gdiplus::MatrixOrderAppend); });
     Are("GdipTranslatePenTransform(#1, 1, 2, 0)",

@@ -40,6 +40,8 @@ bool GpBrush::CreateTextureBrushF(gdiplus::GpImage* hImage, float dstX, float ds
     return MakeTexture(flat::GdipCreateTexture2, hImage, WrapMode, dstX, dstY, dstW, dstH);
 }
 
-gdiplus::GpImage* GpBrush::GetImage() { return Asked<gdiplus::GpImage*>(flat::GdipGetTextureImage); }
+gdiplus::GpImage* GpBrush::GetImage() {
+    return Asked<gdiplus::GpImage*>(flat::GdipGetTextureImage);
+}
 
 }  // namespace vxgui

@@ -37,7 +37,9 @@ bool GpImage::GetPhysicalDimension(float& Width, float& Height) {
     return Check(flat::GdipGetImageDimension(handle_, &Width, &Height));
 }
 
-gdiplus::ImageType GpImage::ImageType() { return Asked<gdiplus::ImageType>(flat::GdipGetImageType); }
+gdiplus::ImageType GpImage::ImageType() {
+    return Asked<gdiplus::ImageType>(flat::GdipGetImageType);
+}
 int32_t GpImage::Width() { return static_cast<int32_t>(Asked<UINT>(flat::GdipGetImageWidth)); }
 int32_t GpImage::Height() { return static_cast<int32_t>(Asked<UINT>(flat::GdipGetImageHeight)); }
 float GpImage::HorizontalResolution() {
@@ -57,8 +59,8 @@ Ref<GpImage> GpImage::GetThumbnailImage(int32_t thumbWidth, int32_t thumbHeight,
     const KeepAlive keep(this);
     gdiplus::GpImage* image = nullptr;
     const auto width = static_cast<UINT>(thumbWidth), height = static_cast<UINT>(thumbHeight);
-    const bool made = Check(
-        flat::GdipGetImageThumbnail(handle_, width, height, &image, Callback, CallbackData));
+    const bool made =
+        Check(flat::GdipGetImageThumbnail(handle_, width, height, &image, Callback, CallbackData));
     return made ? Holding<GpImage>(image) : nullptr;
 }
 

@@ -7,9 +7,7 @@ gdiplus::GpPath* GpPath::Handle() {
     return handle_;
 }
 
-bool GpPath::Create(gdiplus::FillMode FillMode) {
-    return Make(flat::GdipCreatePath, FillMode);
-}
+bool GpPath::Create(gdiplus::FillMode FillMode) { return Make(flat::GdipCreatePath, FillMode); }
 
 template <class Point, class Call>
 bool GpPath::CreateFrom(const Point* points, const uint8_t* types, int32_t count,

@@ -52,7 +52,9 @@ TEST_F(Histogram, CountsEveryFormatsPixels) {
 TEST_F(Histogram, WantsTheRightNumberOfEntries) {
     for (int format = HistogramFormatARGB; format <= HistogramFormatA; ++format) {
         UINT entries = 0;
-        EXPECT_EQ(GdipBitmapGetHistogramSize(nullptr, static_cast<HistogramFormat>(format), &entries), Ok);
+        EXPECT_EQ(
+            GdipBitmapGetHistogramSize(nullptr, static_cast<HistogramFormat>(format), &entries),
+            Ok);
         EXPECT_EQ(entries, 256u);
     }
     UINT entries = 0;
