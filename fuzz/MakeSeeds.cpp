@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "generated/Places.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/kernel.h"
 #include "vxgui/theme/CompiledSkin.h"

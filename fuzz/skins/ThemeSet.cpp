@@ -1,6 +1,7 @@
 #include "vxgui/theme/ThemeSet.h"
 #include "fuzz/Fuzz.h"
 #include "fuzz/skins/PaintItems.h"
+#include "generated/Places.h"
 #include "vxgui/base/Attempt.h"
 
 // The sample skin's pictures are there for the items that name them.

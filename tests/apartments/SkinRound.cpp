@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "generated/Places.h"
+
 namespace vxgui::test {
 namespace {
 

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <thread>
 
+#include "generated/Places.h"
 #include "vxgui/base/Error.h"
 #include "vxgui/c/Border.h"
 #include "vxgui/frame/Version.h"

@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "generated/Places.h"
 #include "tests/theme/AskedFile.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/SkinParts.h"

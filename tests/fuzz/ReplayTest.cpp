@@ -1,3 +1,4 @@
+#include "generated/Places.h"
 #include "tests/fuzz/Replay.h"
 
 #include <gtest/gtest.h>

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 
+#include "generated/Places.h"
 #include "tests/support/TemporaryFolder.h"
 #include "vxgui/base/Variant.h"
 #include "vxgui/platform/gdi.h"

@@ -10,6 +10,7 @@
 #include <QSlider>
 #include <QToolButton>
 
+#include "generated/Places.h"
 #include "tests/qt6/DialogHand.h"
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/surface/cAlphaDIBSection.h"

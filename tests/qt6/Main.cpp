@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <cstdlib>
 
+#include "generated/Places.h"
 #include "vxgui/platform/forms.h"
 #include "vxgui/platform/qt6/QtToolkit.h"
 

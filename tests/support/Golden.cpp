@@ -9,6 +9,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "generated/Places.h"
+
 namespace vxgui::test {
 namespace {
 
@@ -16,7 +18,8 @@ int Channel(uint32_t pixel, int index) { return static_cast<int>(pixel >> (8 * i
 
 int LargestDifference(uint32_t a, uint32_t b) {
     int largest = 0;
-    for (int i = 0; i < 4; ++i) largest = std::max(largest, std::abs(Channel(a, i) - Channel(b, i)));
+    for (int i = 0; i < 4; ++i)
+        largest = std::max(largest, std::abs(Channel(a, i) - Channel(b, i)));
     return largest;
 }
 
@@ -96,7 +99,8 @@ void ExpectGolden(const std::string& name, const TestPicture& actual, int tolera
 }
 
 std::vector<uint8_t> ReadTestFile(const std::string& relativePath) {
-    std::ifstream file(std::string(VXGUI_SOURCE_DIR "/tests/data/") + relativePath, std::ios::binary);
+    std::ifstream file(std::string(VXGUI_SOURCE_DIR "/tests/data/") + relativePath,
+                       std::ios::binary);
     EXPECT_TRUE(file) << relativePath;
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "generated/Places.h"
+
 namespace vxgui::test {
 
 TestPicture ExpectedImage(const std::string& file) {

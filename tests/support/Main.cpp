@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "generated/Places.h"
 #include "vxgui/platform/forms.h"
 
 /// All test programs see the same fonts, which must be settled before any is looked for, and no

@@ -1,3 +1,4 @@
+#include "generated/Places.h"
 #include "vxgui/theme/CompiledSkin.h"
 
 #include <gmock/gmock.h>

@@ -5,6 +5,7 @@
 #include <functional>
 #include <random>
 
+#include "generated/Places.h"
 #include "tests/support/ActedKernel.h"
 #include "tests/support/TemporaryFolder.h"
 #include "vxgui/theme/SkinDef.h"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <set>
 
+#include "generated/Places.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/SkinParts.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "generated/Places.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/theme/skin/Skin.h"
 

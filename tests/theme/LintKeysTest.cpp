@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "generated/Places.h"
 #include "tests/theme/AskedFile.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/ThemeSet.h"

@@ -8,6 +8,7 @@
 #include <regex>
 #include <set>
 
+#include "generated/Places.h"
 #include "tests/support/TemporaryFolder.h"
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/lint/CheckSkin.h"

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "generated/Places.h"
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/ItemLook.h"
 #include "vxgui/theme/skin/Skin.h"

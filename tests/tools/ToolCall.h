@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "generated/Places.h"
 #include "tools/vxgui/Tool.h"
 #include "vxgui/base/Variant.h"
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "generated/Places.h"
 #include "tests/support/Golden.h"
 #include "tests/tools/ToolCall.h"
 

@@ -3,6 +3,7 @@
 
 #include <cctype>
 
+#include "generated/Places.h"
 #include "tests/support/Golden.h"
 #include "tests/tools/ToolCall.h"
 

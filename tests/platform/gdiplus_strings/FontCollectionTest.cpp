@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "generated/Places.h"
 #include "tests/platform/gdiplus_strings/StringFixture.h"
 #include "vxgui/base/String.h"
 #include "vxgui/platform/core7_files.h"

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <thread>
 
+#include "generated/Places.h"
 #include "vxgui/platform/kernel.h"
 #include "vxgui/platform/kernel/ResourceFile.h"
 

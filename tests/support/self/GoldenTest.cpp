@@ -1,3 +1,4 @@
+#include "generated/Places.h"
 #include "tests/support/Golden.h"
 
 #include <gtest/gtest.h>
