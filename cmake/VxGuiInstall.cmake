@@ -26,6 +26,8 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/VxGuiConfig.cmake
 # Seen from where the file lies, so that an installation can be moved.
 file(RELATIVE_PATH VXGUI_PREFIX_FROM_PC ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
      ${CMAKE_INSTALL_PREFIX})
-configure_file(cmake/vxgui.pc.in ${CMAKE_CURRENT_BINARY_DIR}/vxgui.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/vxgui.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+foreach(module vxgui vxgui-c)  # the latter for C, which takes no flags of C++
+  configure_file(cmake/${module}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${module}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${module}.pc
+          DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endforeach()

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the build into a folder of its own and builds a project outside the tree against it, once
-# by find_package and once by pkg-config; both find the library where the folder was moved to
+# Installs the build into a folder of its own and builds a project outside the tree against it, by
+# find_package and by pkg-config, in C++ and in C; all find the library where the folder was moved to
 # afterwards. check_consumer.sh BUILD_DIR SOURCE_DIR
 set -eu
 build=$1 source=$2
@@ -25,3 +25,7 @@ export PKG_CONFIG_PATH="$libdir/pkgconfig" LD_LIBRARY_PATH="$libdir"
 flags=$(pkg-config --cflags --libs vxgui)
 ${CXX:-c++} -o "$work/by-pkg-config" "$work/project/main.cpp" $flags
 "$work/by-pkg-config"
+
+flags=$(pkg-config --cflags --libs vxgui-c)
+${CC:-cc} -std=c11 -pedantic -Wall -Wextra -Werror -o "$work/in-c" "$work/project/main.c" $flags
+"$work/in-c"
