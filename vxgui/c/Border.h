@@ -13,14 +13,14 @@ void KeepError(const std::string& text) noexcept;
 /// Keeps what the exception that is being handled says.
 void KeepCurrentException() noexcept;
 
-[[noreturn]] inline void Refuse(const std::string& text) {
+[[noreturn]] inline void Refuse(const String& text) {
     throw Error(ErrorNumber::InvalidCall, {}, "error: " + text);
 }
 
 /// `handle`, which must not be null; `source` says where the caller gets one.
 template <class Handle>
 Handle& Required(Handle* handle, const char* source) {
-    if (!handle) Refuse(std::string("NULL was given; ") + source + " was expected");
+    if (!handle) Refuse(String("NULL was given; ") + source + " was expected");
     return *handle;
 }
 

@@ -16,20 +16,20 @@ bool IsState(int32_t state) { return state >= 0 && state < E_ItemStateMax; }
 
 void RequireState(int32_t state) {
     if (!IsState(state))
-        Refuse("no state " + std::to_string(state) + "; a number from 0 to 8 was expected");
+        Refuse("no state " + String::FromInt(state) + "; a number from 0 to 8 was expected");
 }
 
 gdi::RECT BoxOf(const vxgui_rectangle& where) {
     for (const int32_t extent : {where.width, where.height}) {
         if (extent < 0 || extent > kLargest) {
-            Refuse("an item can't be drawn " + std::to_string(where.width) + " by " +
-                   std::to_string(where.height) + " pixels large; 0 to 32767 were expected");
+            Refuse("an item can't be drawn " + String::FromInt(where.width) + " by " +
+                   String::FromInt(where.height) + " pixels large; 0 to 32767 were expected");
         }
     }
     for (const int32_t place : {where.x, where.y}) {
         if (place < -kLargest || place > kLargest)
-            Refuse("an item can't be drawn at " + std::to_string(where.x) + ", " +
-                   std::to_string(where.y) + "; -32767 to 32767 were expected");
+            Refuse("an item can't be drawn at " + String::FromInt(where.x) + ", " +
+                   String::FromInt(where.y) + "; -32767 to 32767 were expected");
     }
     return {where.x, where.y, where.x + where.width, where.y + where.height};
 }
@@ -91,8 +91,8 @@ int32_t vxgui_item_draw(vxgui_item* item, int32_t state, const char* caption,
         RequireState(state);
         Global();  // sets the calling thread up
         if (!PaintItem(drawn, state, caption, {to.top, to.width, to.height, to.stride, false}, box))
-            Refuse("no pixels that can be drawn on: " + std::to_string(to.width) + " by " +
-                   std::to_string(to.height) + ", " + std::to_string(to.stride) +
+            Refuse("no pixels that can be drawn on: " + String::FromInt(to.width) + " by " +
+                   String::FromInt(to.height) + ", " + String::FromInt(to.stride) +
                    " bytes a row; a width and a height above 0, and an address and rows of a "
                    "multiple of 4 bytes were expected");
         return 1;
