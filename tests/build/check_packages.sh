@@ -23,6 +23,15 @@ for package in libvxgui9 libvxgui-dev vxgui-tools; do
     done
 done
 
+# Whatever an installation lays down is in one of the packages.
+for deb in "$work"/packages/*.deb; do dpkg -x "$deb" "$work/root"; done
+cmake --install "$build" --prefix "$work/whole" >/dev/null
+lost=$(cd "$work/whole" && find . ! -type d | sort | while read -r file; do
+    [ -e "$work/root/usr/$file" ] || [ -L "$work/root/usr/$file" ] || echo "$file"
+done)
+[ -z "$lost" ] || fail "in no package: $lost"
+rm -rf "$work/whole"
+
 if command -v lintian >/dev/null; then
     lintian --allow-root --fail-on error "$work"/packages/*.deb || fail "lintian finds errors"
 else
