@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/gdip/GpCachedBitmap.h"
 #include "vxgui/gdip/GpGraphics.h"
@@ -8,7 +8,7 @@ namespace {
 
 using test::Handle;
 
-class BitmapCalls : public FlatCalls<GpBitmap> {
+class BitmapCalls : public WrapperCalls<GpBitmap> {
 protected:
     gdiplus::CGpEffect* const effect_ = Handle<gdiplus::CGpEffect>(2);
     gdiplus::IStream* const stream_ = Handle<gdiplus::IStream>(3);
@@ -246,7 +246,7 @@ TEST_F(BitmapCalls, OfAnEffectGiveNoCountOfBitmaps) {
     }
 }
 
-class CachedBitmapCalls : public FlatCalls<GpCachedBitmap> {};
+class CachedBitmapCalls : public WrapperCalls<GpCachedBitmap> {};
 
 TEST_F(CachedBitmapCalls, TakeTheHandlesOfBoth) {
     const Ref<GpBitmap> bitmap = New<GpBitmap>();

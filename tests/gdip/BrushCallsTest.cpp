@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpBrush.h"
 
 namespace vxgui {
@@ -13,7 +13,7 @@ using test::Handle;
 constexpr auto kAppend = gdiplus::MatrixOrderAppend;
 constexpr auto kFlipX = gdiplus::WrapModeTileFlipX;
 
-class BrushCalls : public FlatCalls<GpBrush> {
+class BrushCalls : public WrapperCalls<GpBrush> {
 protected:
     /// `call(...)` as `Are` has it, for a creation that goes through `SetHandle`.
     template <class Run>

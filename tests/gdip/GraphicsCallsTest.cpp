@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/gdip/GpCachedBitmap.h"
 #include "vxgui/gdip/GpGraphics.h"
@@ -10,7 +10,7 @@ namespace {
 using G = GpGraphics;
 using test::Handle;
 
-class GraphicsCalls : public FlatCalls<GpGraphics> {
+class GraphicsCalls : public WrapperCalls<GpGraphics> {
 protected:
     template <class Object, class Flat>
     static Ref<Object> With(uintptr_t number) {

@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpGraphics.h"
 #include "vxgui/gdip/GpImage.h"
 
@@ -7,7 +7,7 @@ namespace {
 
 using test::Handle;
 
-class ImageCalls : public FlatCalls<GpImage> {
+class ImageCalls : public WrapperCalls<GpImage> {
 protected:
     const gdiplus::CLSID id_{5, 0, 0, {}};
     const gdiplus::EncoderParameters parameters_{};

@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "tests/gdip_bitmaps/ShownMessages.h"
 #include "vxgui/gdip/GpImage.h"
 
@@ -27,7 +27,7 @@ void Act(const Stub&, Function* function) {
     static_cast<std::atomic<Function*>*>(Stub::Place())->store(function);
 }
 
-class SavingCalls : public FlatCalls<GpImage> {
+class SavingCalls : public WrapperCalls<GpImage> {
 protected:
     SavingCalls() {
         Act(flat::GdipGetImageEncodersSize, &CountEncoders);

@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpPath.h"
 
 namespace vxgui {
@@ -6,7 +6,7 @@ namespace {
 
 using test::Handle;
 
-class PathCalls : public FlatCalls<GpPath> {
+class PathCalls : public WrapperCalls<GpPath> {
 protected:
     const gdiplus::GpPointF points_[2] = {{1.5f, 2}, {3, 4}};
     const gdiplus::GpPoint pointsI_[2] = {{1, 2}, {3, 4}};

@@ -1,4 +1,4 @@
-#include "tests/gdip/FlatCalls.h"
+#include "tests/gdip/WrapperCalls.h"
 #include "vxgui/gdip/GpBrush.h"
 #include "vxgui/gdip/GpMatrix.h"
 #include "vxgui/gdip/GpPen.h"
@@ -8,8 +8,8 @@ namespace {
 
 using test::Handle;
 
-class PenCalls : public FlatCalls<GpPen> {};
-class MatrixCalls : public FlatCalls<GpMatrix> {
+class PenCalls : public WrapperCalls<GpPen> {};
+class MatrixCalls : public WrapperCalls<GpMatrix> {
 protected:
     MatrixCalls() {
         auto* handle = Handle<gdiplus::GpMatrix>(2);

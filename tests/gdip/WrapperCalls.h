@@ -10,7 +10,7 @@ namespace vxgui {
 /// Tests of a wrapper of class `Object`, call by call: which flat functions an operation calls, in
 /// which order and with what, and what becomes of their answers.
 template <class Object>
-class FlatCalls : public testing::Test {
+class WrapperCalls : public testing::Test {
 protected:
     static constexpr int kStored = 3;
 
