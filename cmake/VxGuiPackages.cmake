@@ -76,4 +76,13 @@ if(TARGET vxgui-qt6)
     "dialogs of the VxGUI toolkit in Qt 6"
     "VxGUI paints the controls of a program from skins that are text files and image\nstrips.\n.\nThis package holds the form toolkit that the library opens when it shows a\ndialog or a message box; without it these answer as if cancelled.")
 endif()
+
+# The viewer's window is the one program that is linked with Qt; the tool says where it is missing.
+if(TARGET vxgui_view)
+  list(APPEND CPACK_COMPONENTS_ALL viewer)
+  set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS vxgui-viewer)
+  vxgui_package(viewer vxgui-viewer graphics "${VXGUI_SAME_LIBRARY}"
+    "window in which the controls of a VxGUI skin live"
+    "VxGUI paints the controls of a program from skins that are text files and image\nstrips.\n.\nThis package holds the window of \"vxgui view\", which shows the items of a skin\nas live controls, reads the skin anew whenever it is saved, and recolours it.")
+endif()
 include(CPack)

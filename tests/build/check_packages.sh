@@ -63,6 +63,12 @@ cd "$work"
     fail "vxgui --version says $(root/usr/bin/vxgui --version), the package is $version"
 root/usr/bin/vxgui gallery "$source/skins/aurora/aurora.theme" -o gallery.png
 root/usr/bin/vxgui gallery res:DefaultStyles:blue --desktop -o blue.png
+if [ -n "$(find "$work/packages" -name "vxgui-viewer_*.deb")" ]; then  # only where Qt is
+    QT_QPA_PLATFORM=offscreen root/usr/bin/vxgui view "$source/skins/aurora/aurora.theme" --screenshot view.png
+    [ -s view.png ] || fail "the viewer of the packages shows nothing"
+elif root/usr/bin/vxgui view "$source/skins/aurora/aurora.theme" 2>log; then
+    fail "there is a viewer, and no package of it"
+fi
 zcat "$root/share/man/man1/vxgui.1.gz" | grep -q '^\.SH RENDER' || fail "the manual page is none"
 bash -n "$root/share/bash-completion/completions/vxgui"
 

@@ -26,5 +26,6 @@ void AddManual(CLI::App& app, std::ostream& out);
 void AddPack(CLI::App& app, std::ostream& out);
 void AddRender(CLI::App& app, std::ostream& out);
 void AddUnpack(CLI::App& app, std::ostream& out);
+void AddView(CLI::App& app);
 
 }  // namespace vxgui::tool

@@ -4,8 +4,8 @@
 
 #include "tools/vxgui/Commands.h"
 #include "tools/vxgui/Sheet.h"
+#include "tools/vxgui/StraightPixel.h"
 #include "tools/vxgui/ToolError.h"
-#include "vxgui/pixels/Recover.h"
 #include "vxgui/theme/ItemLook.h"
 #include "vxgui/theme/skin/Skin.h"
 
@@ -68,18 +68,6 @@ void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon, con
         item.DrawText(sheet.dc(), options.text, DT_SINGLELINE, -1, 0, 0, right, bottom);
 }
 
-// Straight colour and alpha, as picture files have them.
-uint32_t StraightOf(uint32_t onBlack, uint32_t onWhite) {
-    const ARGB pixel = Recover(std::bit_cast<ARGB>(onBlack), std::bit_cast<ARGB>(onWhite));
-    const int alpha = pixel.Alpha;
-    if (alpha == 0) return 0;
-    const auto straight = [alpha](uint8_t colour) {
-        return static_cast<uint8_t>((colour * 255 + alpha / 2) / alpha);
-    };
-    return std::bit_cast<uint32_t>(
-        ARGB{straight(pixel.Blue), straight(pixel.Green), straight(pixel.Red), pixel.Alpha});
-}
-
 void RenderItem(const Options& options, std::ostream& out) {
     const int32_t state = StateOf(options.state);
     const Skin skin = LoadSkin(options.skin);
@@ -92,7 +80,7 @@ void RenderItem(const Options& options, std::ostream& out) {
     Paint(white, *item, icon, options, 0xFFFFFFFF);
     for (int32_t y = 0; y < size.cy; ++y) {
         for (int32_t x = 0; x < size.cx; ++x)
-            black.At(x, y) = StraightOf(black.At(x, y), white.At(x, y));
+            black.At(x, y) = StraightPixelOf(black.At(x, y), white.At(x, y));
     }
     black.WritePng(options.output);
     out << options.output << ": " << size.cx << "x" << size.cy << "\n";

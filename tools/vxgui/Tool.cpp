@@ -16,6 +16,7 @@ constexpr const char* kExamples =
     "  vxgui gallery skins/porcelain/porcelain.uis --desktop -o desktop.png\n"
     "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size 120x34 "
     "-o button.png\n"
+    "  vxgui view skins/aurora/aurora.theme\n"
     "  vxgui check skins/aurora/aurora.theme\n"
     "  vxgui compile skins/aurora/aurora.theme -o aurora.vxs\n"
     "  vxgui pack styles -o DefaultStyles.dll\n"
@@ -75,6 +76,7 @@ void AddCommands(CLI::App& app, std::ostream& out, std::ostream& errors) {
     AddPack(app, out);
     AddRender(app, out);
     AddUnpack(app, out);
+    AddView(app);
 }
 
 int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
