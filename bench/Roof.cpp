@@ -1,15 +1,12 @@
 #include "bench/Roof.h"
 
 #include <cstring>
+#include <cwchar>
 
 #include "vxgui/pixels/Multiversion.h"
 
 namespace vxgui::bench {
 namespace {
-
-VXGUI_MULTIVERSION void Fill(uint32_t* to, size_t count, uint32_t word) {
-    for (size_t i = 0; i < count; ++i) to[i] = word;
-}
 
 VXGUI_MULTIVERSION void Mix(uint32_t* to, const uint32_t* from, size_t count) {
     for (size_t i = 0; i < count; ++i) to[i] ^= from[i];
@@ -17,7 +14,9 @@ VXGUI_MULTIVERSION void Mix(uint32_t* to, const uint32_t* from, size_t count) {
 
 }  // namespace
 
-void StreamFill(uint32_t* to, size_t count, uint32_t word) { Fill(to, count, word); }
+void StreamFill(uint32_t* to, size_t count, uint32_t word) {
+    std::wmemset(reinterpret_cast<wchar_t*>(to), static_cast<wchar_t>(word), count);
+}
 void StreamCopy(uint32_t* to, const uint32_t* from, size_t count) {
     std::memcpy(to, from, count * sizeof *to);
 }

@@ -12,7 +12,8 @@ file(GLOB_RECURSE VXGUI_SOURCES CONFIGURE_DEPENDS
 set(VXGUI_INNER_FOLDERS c codecs core7 corehlp forms gdi gdiplus kernel ole qt6)
 
 # The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone.
-file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp)
+file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp
+     vxgui/platform/gdiplus/words/*.cpp)
 set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS
                             "$<$<NOT:$<CONFIG:Debug>>:-O3>")
 

@@ -2,6 +2,7 @@
 
 #include <cairo.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <random>
@@ -16,6 +17,10 @@ struct Pixels {
     Pixels(int width, int height, uint32_t word = 0)
         : width(width), height(height), words(static_cast<size_t>(width) * height, word) {}
 
+    /// Leaves the words where they stand: others look at them.
+    void Set(const std::vector<uint32_t>& picture) {
+        std::copy(picture.begin(), picture.end(), words.begin());
+    }
     int Stride() const { return width * 4; }
     uint8_t* Bytes() { return reinterpret_cast<uint8_t*>(words.data()); }
 

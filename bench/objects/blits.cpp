@@ -3,7 +3,7 @@
 #include "bench/Beside.h"
 #include "bench/Roof.h"
 #include "bench/objects/Pictures.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 
 namespace vxgui::bench {
 namespace {
@@ -23,7 +23,7 @@ auto Ours(int size, bool straight, bool runs) {
         auto target = std::make_shared<OurCanvas>(kTarget, kTarget);
         auto source = std::make_shared<OurCanvas>(
             size, size, straight ? PixelFormat32bppARGB : PixelFormat32bppPARGB);
-        source->pixels.words = StraightPicture(size, size, runs);
+        source->pixels.Set(StraightPicture(size, size, runs));
         if (!straight) PremultiplyRow(source->pixels.words);
         return [=] { GdipDrawImageRectI(target->graphics, source->image, 7, 9, size, size); };
     };
@@ -36,11 +36,11 @@ auto Cairos(int size, bool eachTime, bool runs) {
         auto target = std::make_shared<CairoCanvas>(kTarget, kTarget);
         auto source = std::make_shared<CairoCanvas>(size, size);
         const std::vector<uint32_t> straight = StraightPicture(size, size, runs);
-        source->pixels.words = Premultiplied(straight);
+        source->pixels.Set(Premultiplied(straight));
         return [=] {
             if (eachTime) {
                 cairo_surface_flush(source->surface);
-                std::copy(straight.begin(), straight.end(), source->pixels.words.begin());
+                source->pixels.Set(straight);
                 PremultiplyRow(source->pixels.words);
                 cairo_surface_mark_dirty(source->surface);
             }
@@ -54,7 +54,7 @@ auto Pixmans(int size, bool runs) {
     return [=] {
         auto target = std::make_shared<Pixels>(kTarget, kTarget, 0xFFC0D0E0);
         auto source = std::make_shared<Pixels>(size, size);
-        source->words = Premultiplied(StraightPicture(size, size, runs));
+        source->Set(Premultiplied(StraightPicture(size, size, runs)));
         const auto image = [](Pixels& pixels) {
             return std::shared_ptr<pixman_image_t>(
                 pixman_image_create_bits(PIXMAN_a8r8g8b8, pixels.width, pixels.height,

@@ -10,7 +10,7 @@ using namespace gdiplus;
 auto Ours() {
     auto target = std::make_shared<OurCanvas>(64, 64);
     auto source = std::make_shared<OurCanvas>(512, 512, PixelFormat32bppARGB);
-    source->pixels.words = StraightPicture(512, 512, false);
+    source->pixels.Set(StraightPicture(512, 512, false));
     const ColorMatrix matrix{{{0.3f, 0.3f, 0.3f, 0, 0},
                               {0.6f, 0.6f, 0.6f, 0, 0},
                               {0.1f, 0.1f, 0.1f, 0, 0},

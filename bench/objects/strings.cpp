@@ -18,8 +18,8 @@ constexpr ARGB kColor = 0xFF102030;
 class Counted {
 public:
     const char* Next() {
-        ++count_;
-        for (int i = 0, rest = count_; i < 6; ++i, rest /= 10) {
+        static int count = 0;  // goes on from one repetition to the next
+        for (int i = 0, rest = ++count; i < 6; ++i, rest /= 10) {
             text_[text_.size() - 1 - static_cast<size_t>(i)] = static_cast<char>('0' + rest % 10);
         }
         return text_.c_str();
@@ -31,7 +31,6 @@ public:
 
 private:
     std::string text_ = kText;
-    int count_ = 0;
 };
 
 struct OurText : OurCanvas {

@@ -34,6 +34,20 @@ TEST(LruCache, KeepsWhatIsBeyondTheBoundAlone) {
     EXPECT_EQ(cache.Find(3), nullptr);
 }
 
+TEST(LruCache, CountsWhatAValueHasGrownTo) {
+    LruCache<int, int, std::hash<int>> cache(5);
+    cache.Insert(1, 10, 2);
+    cache.Insert(2, 20, 2);
+    EXPECT_EQ(*cache.Find(1), 10);
+    cache.Reprice(3);
+    EXPECT_EQ(cache.Cost(), 5u);
+    cache.Reprice(4);
+    EXPECT_EQ(cache.Cost(), 4u);
+    EXPECT_EQ(cache.Find(2), nullptr);
+    cache.Reprice(9);
+    EXPECT_EQ(*cache.Find(1), 10);
+}
+
 TEST(TextCaches, AreBounded) {
     Canvas canvas(300, 300);
     for (int em = 8; em < 180; ++em) {

@@ -3,7 +3,7 @@
 #include "tests/platform/gdiplus_bitmaps/BitmapFixture.h"
 #include "tests/platform/gdiplus_bitmaps/Formats.h"
 #include "vxgui/platform/gdiplus/Bitmap.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
 
 namespace vxgui::gdiplus {

@@ -1,6 +1,6 @@
 #include "tests/platform/gdiplus_bitmaps/BitmapFixture.h"
 #include "vxgui/platform/gdiplus/Bitmap.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 
 namespace vxgui::gdiplus {
 namespace {

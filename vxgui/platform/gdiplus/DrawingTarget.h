@@ -3,7 +3,7 @@
 #include <cairo.h>
 
 #include "vxgui/platform/gdi/PixelRegion.h"
-#include "vxgui/platform/gdiplus_types.h"
+#include "vxgui/platform/gdiplus/words/WordRows.h"
 
 namespace vxgui::gdiplus {
 
@@ -22,6 +22,9 @@ public:
 
     /// Where the top row of the pixels stands, to tell whether an image is the target itself.
     virtual const void* Memory() const = 0;
+
+    /// The pixels, where they are premultiplied words that may be written as they stand; else none.
+    virtual WordRows Words() const { return {}; }
 
     /// A premultiplied 32-bit surface over the whole target, which shows its pixels within `area`;
     /// what is drawn there reaches the target at `End`. Null when memory is out.

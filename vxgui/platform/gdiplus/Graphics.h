@@ -64,6 +64,10 @@ public:
     /// paints are given in the world, and don't move.
     void MoveToSamples(cairo_t* cairo) const;
     bool Antialiases() const;
+    /// What is drawn takes the place of the pixels and isn't blended with them.
+    bool Replaces() const { return state.compositingMode == CompositingModeSourceCopy; }
+    /// Whether all of what is `Drawable` may be drawn on.
+    bool ClipsToBox() const;
 
     DrawingTarget& Target() const { return *target_; }
     /// Why nothing may be done with the graphics now, or Ok.

@@ -28,8 +28,15 @@ public:
         entries_.push_front({std::move(key), std::move(value), cost});
         places_.emplace(entries_.front().key, entries_.begin());
         cost_ += cost;
-        while (cost_ > bound_ && entries_.size() > 1) DropLast();
+        DropSurplus();
         return &entries_.front().value;
+    }
+
+    /// Gives the value that was found or entered last another cost.
+    void Reprice(size_t cost) {
+        cost_ += cost - entries_.front().cost;
+        entries_.front().cost = cost;
+        DropSurplus();
     }
 
     void Clear() {
@@ -47,6 +54,10 @@ private:
         Value value;
         size_t cost;
     };
+
+    void DropSurplus() {
+        while (cost_ > bound_ && entries_.size() > 1) DropLast();
+    }
 
     void DropLast() {
         places_.erase(entries_.back().key);

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstring>
 
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/bitmap/CopyPixels.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
 #include "vxgui/platform/gdiplus/bitmap/PixelRow.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "vxgui/base/LittleEndian.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/bitmap/LinearLight.h"
 #include "vxgui/platform/gdiplus/bitmap/Luminance.h"
 

@@ -1,6 +1,6 @@
 #include "vxgui/platform/gdiplus/brushes/HatchBrush.h"
 
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/brushes/HatchCells.h"
 #include "vxgui/platform/gdiplus/brushes/Patterns.h"
 

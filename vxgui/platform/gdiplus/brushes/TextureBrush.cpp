@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/brushes/Patterns.h"
 
 namespace vxgui::gdiplus {
@@ -59,9 +59,9 @@ Pattern TextureBrush::MakePattern(const PatternPlace& place) const {
     if (!toBrush) return ClearPattern();
     const INT width = width_ * (FlipsX(Wrap()) ? 2 : 1);
     // cairo doesn't write to what a pattern reads.
-    const Surface surface = SurfaceOver(const_cast<ARGB*>(cell_.data()), width,
-                                        static_cast<INT>(cell_.size() / static_cast<size_t>(width)),
-                                        width * ptrdiff_t{4});
+    const Surface surface = SurfaceOver(
+        WordRows::Packed(const_cast<ARGB*>(cell_.data()), width,
+                         static_cast<INT>(cell_.size() / static_cast<size_t>(width))));
     const bool exact = KeepsPixels(transform * place.worldToDevice);
     return SurfacePattern(surface, *toBrush,
                           Wrap() == WrapModeClamp ? CAIRO_EXTEND_NONE : CAIRO_EXTEND_REPEAT,

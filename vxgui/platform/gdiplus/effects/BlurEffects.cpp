@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 #include "vxgui/platform/gdiplus/effects/BlurPicture.h"
 #include "vxgui/platform/gdiplus/effects/EffectOf.h"
 #include "vxgui/platform/gdiplus/effects/Effects.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "vxgui/pixels/Blur.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 
 namespace vxgui::gdiplus {
 

@@ -4,12 +4,14 @@
 
 namespace vxgui::gdiplus {
 
+WordRows BitmapTarget::Words() const { return WordsOf(*bitmap_); }
+
 // Memory and its form may change between two drawings, even at the same place.
 cairo_surface_t* BitmapTarget::Cover() {
-    if (!HasDrawableWords(*bitmap_)) return nullptr;
-    const Covered words{bitmap_->Row(0), Width(), Height(), bitmap_->Stride()};
+    const WordRows words = Words();
+    if (!words) return nullptr;
     if (!surface_ || covered_ != words) {
-        surface_ = SurfaceOver(*bitmap_);
+        surface_ = SurfaceOver(words);
         covered_ = words;
     }
     if (surface_) cairo_surface_mark_dirty(surface_.get());

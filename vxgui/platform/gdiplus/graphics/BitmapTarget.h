@@ -18,6 +18,7 @@ public:
     REAL DpiY() const override { return bitmap_->dpiY; }
     GpStatus Ready() const override { return bitmap_->IsLocked() ? ObjectBusy : Ok; }
     const void* Memory() const override { return bitmap_->Row(0); }
+    WordRows Words() const override;
     cairo_surface_t* Begin(const GpRect& area) override;
     void End(const GpRect& area) override;
     void Store(const GpRect& area, ARGB color) override;
@@ -25,18 +26,12 @@ public:
     void TakeBack(gdi::HDC dc) override;
 
 private:
-    struct Covered {
-        const uint8_t* top = nullptr;
-        INT width = 0, height = 0, stride = 0;
-        bool operator==(const Covered&) const = default;
-    };
-
     cairo_surface_t* Cover();
 
     const Ref<Bitmap> bitmap_;
     ScratchArea scratch_;
     bool direct_ = false;
-    Covered covered_;
+    WordRows covered_;
     Surface surface_;  // over `covered_`
     std::optional<BitmapDc> lent_;
 };

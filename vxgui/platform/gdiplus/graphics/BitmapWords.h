@@ -1,23 +1,21 @@
 #pragma once
 
-#include <cstdint>
-
 #include "vxgui/platform/gdiplus/Bitmap.h"
 #include "vxgui/platform/gdiplus/graphics/Surface.h"
+#include "vxgui/platform/gdiplus/words/WordRows.h"
 
 namespace vxgui::gdiplus {
 
-/// True for pixels that can be drawn, and drawn on, where they stand: premultiplied aligned words.
-inline bool HasDrawableWords(const Bitmap& bitmap) {
-    constexpr uintptr_t kWord = 4;
-    return bitmap.Format() == PixelFormat32bppPARGB &&
-           reinterpret_cast<uintptr_t>(bitmap.Row(0)) % kWord == 0;
-}
-
-/// A surface over such pixels, for reading alone when the bitmap is a constant one.
-inline Surface SurfaceOver(const Bitmap& bitmap) {
-    return SurfaceOver(const_cast<uint8_t*>(bitmap.Row(0)), static_cast<int>(bitmap.Width()),
-                       static_cast<int>(bitmap.Height()), bitmap.Stride());
+/// The pixels of a bitmap that is drawn, and drawn on, where it stands: aligned words of `format`.
+/// None for another. Those of a constant bitmap are for reading alone.
+inline WordRows WordsOf(const Bitmap& bitmap, PixelFormat format = PixelFormat32bppPARGB) {
+    auto* const top = const_cast<uint8_t*>(bitmap.Row(0));
+    if (bitmap.Format() != format || reinterpret_cast<uintptr_t>(top) % sizeof(ARGB) != 0 ||
+        bitmap.Stride() % static_cast<INT>(sizeof(ARGB)) != 0) {
+        return {};
+    }
+    return {top, bitmap.Stride(), static_cast<INT>(bitmap.Width()),
+            static_cast<INT>(bitmap.Height())};
 }
 
 }  // namespace vxgui::gdiplus

@@ -4,8 +4,8 @@
 
 namespace vxgui::gdiplus {
 
-/// Draws the pixels of a surface that fall in `area`, with its upper left corner at `at`, both in
-/// pixels of the device.
-GpStatus Blit(Graphics& graphics, cairo_surface_t* surface, const GpRect& area, GpPoint at);
+/// Draws the pixels that fall in `area`, with their upper left corner at `at`, both in pixels of
+/// the device.
+GpStatus Blit(Graphics& graphics, const WordRows& pixels, const GpRect& area, GpPoint at);
 
 }  // namespace vxgui::gdiplus

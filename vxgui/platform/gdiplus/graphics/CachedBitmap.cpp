@@ -21,15 +21,14 @@ Ref<CachedBitmap> CachedBitmap::Make(const Bitmap& bitmap) {
         bitmap.ReadPremultiplied(
             0, y, std::span(canvas.pixels).subspan(static_cast<size_t>(y) * width, width));
     }
-    made->surface_ = canvas.Cover();
-    return made->surface_ ? made : nullptr;
+    return made;
 }
 
-GpStatus CachedBitmap::Draw(Graphics& graphics, INT x, INT y) const {
+GpStatus CachedBitmap::Draw(Graphics& graphics, INT x, INT y) {
     const Affine world = graphics.WorldToDevice();
     if (!OnlyMoves(world)) return WrongState;
     const GpPoint at = RoundPoint(world.Apply({static_cast<REAL>(x), static_cast<REAL>(y)}));
-    return Blit(graphics, surface_.get(), {at.X, at.Y, canvas_.width, canvas_.height}, at);
+    return Blit(graphics, canvas_.Words(), {at.X, at.Y, canvas_.width, canvas_.height}, at);
 }
 
 }  // namespace vxgui::gdiplus

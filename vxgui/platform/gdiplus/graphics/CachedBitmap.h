@@ -9,16 +9,14 @@ namespace vxgui::gdiplus {
 /// it was made.
 class CachedBitmap final : public FlatObject {
 public:
-    /// None when memory is out.
     static Ref<CachedBitmap> Make(const Bitmap& bitmap);
 
     /// With its upper left corner at a point of the world. `WrongState` for a world that does more
     /// than move: the pixels can't be laid out anew.
-    GpStatus Draw(Graphics& graphics, INT x, INT y) const;
+    GpStatus Draw(Graphics& graphics, INT x, INT y);
 
 private:
     Canvas canvas_;
-    Surface surface_;
 };
 
 }  // namespace vxgui::gdiplus

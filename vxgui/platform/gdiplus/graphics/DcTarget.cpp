@@ -3,16 +3,12 @@
 #include "vxgui/platform/gdi/PixelConverter.h"
 #include "vxgui/platform/gdi/PixelRows.h"
 #include "vxgui/platform/gdi_surfaces.h"
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 
 namespace vxgui::gdiplus {
 namespace {
 
 constexpr ARGB kOpaque = 0xFF000000;
-
-bool SamePixels(const gdi::PixelTarget& a, const gdi::PixelTarget& b) {
-    return a.top == b.top && a.stride == b.stride && a.width == b.width && a.height == b.height;
-}
 
 }  // namespace
 
@@ -22,19 +18,25 @@ const gdi::PixelRegion* DcTarget::Clip() const {
     return context_->state.clip ? &*context_->state.clip : nullptr;
 }
 
+WordRows DcTarget::Words() const {
+    const gdi::PixelTarget target = context_->Target();
+    if (target.depth != 32) return {};
+    return {target.top, target.stride, target.width, target.height};
+}
+
 // The surface is kept from one drawing to the next, while the bitmap stays.
-cairo_surface_t* DcTarget::Cover(const gdi::PixelTarget& target) {
-    if (!surface_ || !SamePixels(target, covered_)) {
-        surface_ = SurfaceOver(target.top, target.width, target.height, target.stride);
-        covered_ = target;
+cairo_surface_t* DcTarget::Cover(const WordRows& words) {
+    if (!surface_ || words != covered_) {
+        surface_ = SurfaceOver(words);
+        covered_ = words;
     }
     if (surface_) cairo_surface_mark_dirty(surface_.get());  // others draw on the pixels, too
     return surface_.get();
 }
 
 cairo_surface_t* DcTarget::Begin(const GpRect& area) {
+    if (const WordRows words = Words()) return Cover(words);
     const gdi::PixelTarget target = context_->Target();
-    if (target.depth == 32) return Cover(target);
     return scratch_.Open(area, [&](INT x, INT y, std::span<ARGB> pixels) {
         gdi::LoadRow(target, x, y, static_cast<int32_t>(pixels.size()), pixels.data());
         for (ARGB& pixel : pixels) pixel = gdi::ColorOf(target, pixel, {}) | kOpaque;

@@ -18,6 +18,7 @@ public:
     REAL DpiY() const override { return DpiX(); }
     const gdi::PixelRegion* Clip() const override;
     const void* Memory() const override { return context_->Target().top; }
+    WordRows Words() const override;
     cairo_surface_t* Begin(const GpRect& area) override;
     void End(const GpRect& area) override;
     void Store(const GpRect& area, ARGB color) override;
@@ -25,11 +26,11 @@ public:
     void TakeBack(gdi::HDC) override {}
 
 private:
-    cairo_surface_t* Cover(const gdi::PixelTarget& target);
+    cairo_surface_t* Cover(const WordRows& words);
     void StoreColors(const gdi::PixelTarget& target, INT x, INT y, std::span<const ARGB> colors);
 
     const gdi::GdiRef<gdi::DeviceContext> context_;
-    gdi::PixelTarget covered_;
+    WordRows covered_;
     Surface surface_;  // over `covered_`
     ScratchArea scratch_;
 };

@@ -4,19 +4,12 @@
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
 #include "vxgui/platform/gdiplus/graphics/Clips.h"
+#include "vxgui/platform/gdiplus/graphics/DrawnWords.h"
 #include "vxgui/platform/gdiplus/graphics/Shapes.h"
+#include "vxgui/platform/gdiplus/words/WordBlends.h"
 
 namespace vxgui::gdiplus {
 namespace {
-
-gdi::PixelRegion ClipWithin(const Graphics& graphics, const GpRect& area) {
-    gdi::PixelRegion region(ToRECT(area));
-    for (const gdi::PixelRegion* clip : {graphics.Target().Clip(), graphics.state.clip.Pixels(),
-                                         graphics.state.outerClip.Pixels()}) {
-        if (clip) region.Combine(region, *clip, gdi::RGN_AND);
-    }
-    return region;
-}
 
 bool IsWhole(REAL value) { return value == std::nearbyint(value); }
 
@@ -30,8 +23,20 @@ std::optional<GpRect> WholePixels(const Graphics& graphics, const GpRectF& rect)
     return whole ? std::optional(SampledBy(*box, 0)) : std::nullopt;
 }
 
+// One colour on words takes no drawing library.
+bool FillOnWords(const Graphics& graphics, const Brush& brush, const GpRect& drawn) {
+    ARGB color;
+    if (!brush.IsSolid(&color)) return false;
+    const ARGB word = WordOf(color);
+    const bool replaces = graphics.Replaces();
+    return DrawOnWords(graphics, drawn, [=](ARGB* to, INT, INT, size_t count) {
+        replaces ? FillWords(to, count, word) : DrawColor(to, count, word);
+    });
+}
+
 GpStatus FillPixels(Graphics& graphics, const Brush& brush, const GpRect& pixels) {
     const GpRect drawn = graphics.Drawable(pixels);
+    if (IsEmpty(drawn) || FillOnWords(graphics, brush, drawn)) return Ok;
     return graphics.PaintExactly(drawn, graphics.WorldToDevice(), [&](cairo_t* cairo) {
         graphics.SetSource(cairo, brush, drawn);
         cairo_identity_matrix(cairo);
@@ -46,10 +51,7 @@ void ClearTo(Graphics& graphics, ARGB color) {
     DrawingTarget& target = graphics.Target();
     const GpRect area = graphics.Drawable({0, 0, target.Width(), target.Height()});
     if (IsEmpty(area)) return;
-    const gdi::PixelRegion pixels = ClipWithin(graphics, area);
-    for (const pixman_box32_t& box : pixels.Boxes()) {
-        target.Store(FromRECT(gdi::RectOf(box)), color);
-    }
+    ForEachDrawable(graphics, area, [&](const GpRect& box) { target.Store(box, color); });
 }
 
 GpStatus FillRectangle(Graphics& graphics, const Brush& brush, const GpRectF& rect) {

@@ -12,6 +12,8 @@ void Narrow(GpRect& area, const gdi::PixelRegion* clip) {
     if (clip) area = Common(area, FromRECT(clip->Bounds()));
 }
 
+bool IsBox(const gdi::PixelRegion* clip) { return !clip || clip->Kind() == gdi::SIMPLEREGION; }
+
 }  // namespace
 
 Affine Graphics::PageToDevice() const {
@@ -44,6 +46,10 @@ double Graphics::ShapeOffset() const {
 bool Graphics::Antialiases() const {
     return state.smoothingMode == SmoothingModeHighQuality ||
            state.smoothingMode >= SmoothingModeAntiAlias;
+}
+
+bool Graphics::ClipsToBox() const {
+    return IsBox(target_->Clip()) && IsBox(state.clip.Pixels()) && IsBox(state.outerClip.Pixels());
 }
 
 GpStatus Graphics::Ready() const { return lentDc ? ObjectBusy : target_->Ready(); }

@@ -67,8 +67,7 @@ void Graphics::ClipToPixels(cairo_t* cairo, const GpRect& area) const {
 }
 
 void Graphics::Prepare(cairo_t* cairo, const Affine& user) const {
-    const bool copy = state.compositingMode == CompositingModeSourceCopy;
-    cairo_set_operator(cairo, copy ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER);
+    cairo_set_operator(cairo, Replaces() ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER);
     cairo_set_antialias(cairo, Antialiases() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
     const cairo_matrix_t matrix = CairoMatrix(user);
     cairo_set_matrix(cairo, &matrix);

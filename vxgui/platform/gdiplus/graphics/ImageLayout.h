@@ -4,16 +4,16 @@
 
 #include "vxgui/platform/gdiplus/graphics/ImageAxis.h"
 #include "vxgui/platform/gdiplus/graphics/ImageSource.h"
-#include "vxgui/platform/gdiplus/graphics/Surface.h"
+#include "vxgui/platform/gdiplus/words/WordRows.h"
 
 namespace vxgui::gdiplus {
 
-/// Premultiplied pixels that a surface shows.
+/// Premultiplied pixels.
 struct Canvas {
     INT width, height;
     std::vector<ARGB> pixels;
 
-    Surface Cover() { return SurfaceOver(pixels.data(), width, height, ptrdiff_t{width} * 4); }
+    WordRows Words() { return WordRows::Packed(pixels.data(), width, height); }
 };
 
 struct Axes {

@@ -4,17 +4,14 @@
 #include <cmath>
 
 #include "vxgui/platform/gdiplus/DeviceBox.h"
-#include "vxgui/platform/gdiplus/graphics/BitmapWords.h"
 #include "vxgui/platform/gdiplus/graphics/Blit.h"
 #include "vxgui/platform/gdiplus/graphics/Clips.h"
+#include "vxgui/platform/gdiplus/graphics/CopiedImage.h"
 #include "vxgui/platform/gdiplus/graphics/ImageLayout.h"
 #include "vxgui/platform/gdiplus/graphics/SlantedImage.h"
 
 namespace vxgui::gdiplus {
 namespace {
-
-// As many as stay in a near cache.
-constexpr INT kBandPixels = 1 << 14;
 
 GpRectF Around(const Axes& axes) {
     const auto low = [](const ImageAxis& a) { return std::min(a.target0, a.target1); };
@@ -22,13 +19,6 @@ GpRectF Around(const Axes& axes) {
     return {static_cast<REAL>(low(axes.x)), static_cast<REAL>(low(axes.y)),
             static_cast<REAL>(high(axes.x) - low(axes.x)),
             static_cast<REAL>(high(axes.y) - low(axes.y))};
-}
-
-// True when the image's own pixels can be drawn as they stand.
-bool IsPlainCopy(const Graphics& graphics, const ImagePart& part, const ImageSource& source,
-                 const Axes& axes) {
-    return axes.x.Copies() && axes.y.Copies() && !source.IsAdjusted() && !source.Wrap() &&
-           HasDrawableWords(part.bitmap) && part.bitmap.Row(0) != graphics.Target().Memory();
 }
 
 GpPoint OriginOf(const Axes& axes) {
@@ -42,19 +32,17 @@ GpStatus DrawUpright(Graphics& graphics, const ImagePart& part, const GpPointF d
     const double offset = graphics.ShapeOffset();
     const GpRect area = graphics.Drawable(SampledBy(Around(axes), offset));
     if (IsEmpty(area)) return Ok;
-    if (IsPlainCopy(graphics, part, source, axes)) {
-        const Surface words = SurfaceOver(part.bitmap);
-        return words ? Blit(graphics, words.get(), area, OriginOf(axes)) : OutOfMemory;
-    }
     // An image that is drawn on itself is read whole before it changes.
     const bool isTarget = part.bitmap.Row(0) == graphics.Target().Memory();
-    const INT rows = isTarget ? area.Height : std::max(1, kBandPixels / area.Width);
+    if (!isTarget && axes.x.Copies() && axes.y.Copies() && !source.Wrap()) {
+        if (const auto status = DrawCopy(graphics, part, source, area, OriginOf(axes)))
+            return *status;
+    }
+    const INT rows = isTarget ? area.Height : RowsOfBand(area.Width);
     return InBands(source, axes, {graphics.state.interpolationMode, offset == 0}, area, rows,
                    [&](const GpRect& place, Canvas& pixels) -> GpStatus {
                        if (part.abort.Aborts()) return Aborted;
-                       const Surface surface = pixels.Cover();
-                       if (!surface) return OutOfMemory;
-                       return Blit(graphics, surface.get(), place, {place.X, place.Y});
+                       return Blit(graphics, pixels.Words(), place, {place.X, place.Y});
                    });
 }
 

@@ -21,6 +21,12 @@ struct ImagePart {
     AbortCheck abort;
 };
 
+/// How many rows of that width are made before they are drawn: as many as stay in a near cache.
+constexpr INT RowsOfBand(INT width) {
+    constexpr INT kPixels = 1 << 14;
+    return width < kPixels ? kPixels / width : 1;
+}
+
 /// Draws a part in the parallelogram of three corners in world coordinates: upper left, upper
 /// right, lower left.
 GpStatus DrawPart(Graphics& graphics, const ImagePart& part, const GpPointF corners[3]);

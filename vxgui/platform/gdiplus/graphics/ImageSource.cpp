@@ -1,6 +1,6 @@
 #include "vxgui/platform/gdiplus/graphics/ImageSource.h"
 
-#include "vxgui/platform/gdiplus/Premultiply.h"
+#include "vxgui/platform/gdiplus/words/Premultiply.h"
 
 namespace vxgui::gdiplus {
 namespace {

@@ -8,7 +8,7 @@ void ScratchArea::Reserve(const GpRect& area) {
 }
 
 cairo_surface_t* ScratchArea::Cover() {
-    surface_ = SurfaceOver(pixels_.data(), area_.Width, area_.Height, ptrdiff_t{area_.Width} * 4);
+    surface_ = SurfaceOver(WordRows::Packed(pixels_.data(), area_.Width, area_.Height));
     if (surface_) cairo_surface_set_device_offset(surface_.get(), -area_.X, -area_.Y);
     return surface_.get();
 }

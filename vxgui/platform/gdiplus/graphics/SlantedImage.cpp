@@ -7,6 +7,7 @@
 #include "vxgui/platform/gdiplus/Path.h"
 #include "vxgui/platform/gdiplus/graphics/AxisTaps.h"
 #include "vxgui/platform/gdiplus/graphics/ImageLayout.h"
+#include "vxgui/platform/gdiplus/graphics/Surface.h"
 
 namespace vxgui::gdiplus {
 namespace {
@@ -102,7 +103,7 @@ GpRect PlaceOf(const Slanted& slanted) {
 // The part alone, upright.
 GpStatus DrawPicture(Graphics& graphics, const Slanted& slanted, const Affine& toPicture,
                      Canvas& picture) {
-    const Surface surface = picture.Cover();
+    const Surface surface = SurfaceOver(picture.Words());
     if (!surface) return OutOfMemory;
     return graphics.PaintDevice(PlaceOf(slanted), [&](cairo_t* cairo) {
         cairo_set_source_surface(cairo, surface.get(), 0, 0);

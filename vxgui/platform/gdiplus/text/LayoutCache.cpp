@@ -4,6 +4,18 @@
 
 namespace vxgui::gdiplus {
 
+namespace {
+
+// What an entry takes besides its text, about.
+constexpr size_t kEntry = sizeof(KeptLayout) + 256;
+
+size_t WeightOf(std::u16string_view text, const StringLayout& layout) {
+    return kEntry + text.size() * sizeof(char16_t) + layout.glyphs.capacity() * sizeof(PlacedGlyph) +
+           layout.bars.capacity() * sizeof(GpRectF);
+}
+
+}  // namespace
+
 LayoutCache::Key::Key(const View& view)
     : text(view.text),
       family(view.family),
@@ -32,7 +44,14 @@ KeptLayout& LayoutCache::Find(std::u16string_view text, const LayoutRequest& req
     if (KeptLayout* known = layouts_.Find(view)) return *known;
     KeptLayout made;
     made.layout = LayOut(text, request);
-    return *layouts_.Insert(Key(view), std::move(made), text.size() + kEntry);
+    made.weight = WeightOf(text, made.layout);
+    const size_t weight = made.weight;
+    return *layouts_.Insert(Key(view), std::move(made), weight);
+}
+
+void LayoutCache::Weigh(const KeptLayout& found) {
+    const GpRect& box = found.mask.box;
+    layouts_.Reprice(found.weight + static_cast<size_t>(box.Width) * static_cast<size_t>(box.Height));
 }
 
 }  // namespace vxgui::gdiplus

@@ -13,15 +13,22 @@ struct KeptLayout {
     MaskPlace place;
     TextMask mask;
     bool hasMask = false;
+    size_t weight = 0;  ///< in bytes, without the mask
 };
 
 /// The strings that a thread has laid out lately: a repaint draws the same ones again and again,
 /// and each is measured before it is drawn.
 class LayoutCache {
 public:
+    /// Bytes, all strings together, with what was drawn of them.
+    static constexpr size_t kBound = size_t{4} << 20;
+
     /// Valid until the next call.
     KeptLayout& Find(std::u16string_view text, const LayoutRequest& request);
+    /// Counts what the layout that was found last has been given since.
+    void Weigh(const KeptLayout& found);
     void Clear() { layouts_.Clear(); }
+    size_t Cost() const { return layouts_.Cost(); }
 
 private:
     struct View {
@@ -51,10 +58,6 @@ private:
         using is_transparent = void;
         bool operator()(const View& a, const View& b) const;
     };
-
-    // 16-bit units, all strings together, each with what an entry weighs besides its text.
-    static constexpr size_t kBound = 32 * 1024;
-    static constexpr size_t kEntry = 128;
 
     gdi::LruCache<Key, KeptLayout, Hash, Equal> layouts_{kBound};
 };

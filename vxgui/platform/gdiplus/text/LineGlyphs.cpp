@@ -49,26 +49,21 @@ private:
 
 }  // namespace
 
-LineGlyphs MakeLine(const StringFace& face, const StringTabs& tabs, std::u16string_view text,
-                    size_t mark, bool rightToLeft) {
-    struct Part {
-        ShapedString shaped;
-        size_t first;
-        double x;
-    };
-    std::vector<Part> parts;
+LineGlyphs MakeLine(const std::vector<ShapedString>& pieces, const StringTabs& tabs,
+                    std::u16string_view text, size_t mark, bool rightToLeft) {
+    std::vector<double> starts;
     double x = 0;
-    for (size_t at = 0; at <= text.size();) {
-        const size_t tab = std::min(text.find(u'\t', at), text.size());
-        parts.push_back({face.Shape(text.substr(at, tab - at)), at, x});
-        x += parts.back().shaped.width;
-        if (tab < text.size()) x = tabs.After(x);
-        at = tab + 1;
+    for (const ShapedString& piece : pieces) {
+        if (!starts.empty()) x = tabs.After(x);
+        starts.push_back(x);
+        x += piece.width;
     }
     Collector collector(text, mark);
-    for (const Part& part : parts) {
-        const double left = rightToLeft ? x - part.x - part.shaped.width : part.x;
-        collector.Append(part.shaped, part.first, left);
+    size_t first = 0;
+    for (size_t i = 0; i < pieces.size(); ++i) {
+        const double left = rightToLeft ? x - starts[i] - pieces[i].width : starts[i];
+        collector.Append(pieces[i], first, left);
+        first += pieces[i].advances.size() + 1;
     }
     collector.line.width = x;
     return std::move(collector.line);

@@ -18,9 +18,10 @@ struct LineGlyphs {
     double markLeft = 0, markWidth = 0;  ///< of the character that is a hot key
 };
 
-/// The glyphs of a line. `mark` is the unit of its hot key, npos for none.
-LineGlyphs MakeLine(const StringFace& face, const StringTabs& tabs, std::u16string_view text,
-                    size_t mark, bool rightToLeft);
+/// The glyphs of a line, which was shaped between its tabs. `mark` is the unit of its hot key, npos
+/// for none.
+LineGlyphs MakeLine(const std::vector<ShapedString>& pieces, const StringTabs& tabs,
+                    std::u16string_view text, size_t mark, bool rightToLeft);
 
 /// How far a line's ink reaches beyond [0, width] at its left and right; 0 where it doesn't.
 struct Overhang {

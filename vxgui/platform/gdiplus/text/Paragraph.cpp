@@ -29,15 +29,17 @@ double StringTabs::After(double x) const {
 }
 
 Paragraph::Paragraph(const StringFace& face, const StringTabs& tabs, std::u16string_view text)
-    : tabs_(tabs), text_(text), places_(gdi::LogAttributesOf(text)) {
-    advances_.reserve(text.size());
-    for (size_t at = 0; at <= text.size();) {
-        const size_t tab = std::min(text.find(u'\t', at), text.size());
-        const ShapedString shaped = face.Shape(text.substr(at, tab - at));
-        advances_.insert(advances_.end(), shaped.advances.begin(), shaped.advances.end());
+    : tabs_(tabs), text_(text), pieces_(face.ShapeBetweenTabs(text)) {
+    advances_.reserve(text.size() + 1);
+    for (const ShapedString& piece : pieces_) {
+        advances_.insert(advances_.end(), piece.advances.begin(), piece.advances.end());
         advances_.push_back(0);  // the tab's, or one behind the end
-        at = tab + 1;
     }
+}
+
+const PangoLogAttr& Paragraph::PlaceOf(size_t unit) const {
+    if (places_.empty()) places_ = gdi::LogAttributesOf(text_);
+    return places_[unit];
 }
 
 double Paragraph::Advanced(double x, size_t unit) const {
@@ -56,14 +58,14 @@ size_t Paragraph::WithoutSpaces(size_t first, size_t end) const {
 }
 
 size_t Paragraph::LastFitting(size_t first, size_t end, double width) const {
-    size_t fits = first;
-    double x = 0;
-    for (size_t unit = first; unit < end; ++unit) {
-        x = Advanced(x, unit);
+    size_t past = first;
+    for (double x = 0; past < end; ++past) {
+        x = Advanced(x, past);
         if (x > width + kSlack) break;
-        if (CanCut(unit + 1)) fits = unit + 1;
     }
-    return fits;
+    if (past == Size()) return past;  // a text's end may be cut at, whatever it holds
+    while (past > first && !CanCut(past)) --past;
+    return past;
 }
 
 size_t Paragraph::FirstFitting(size_t first, size_t end, double width) const {

@@ -20,15 +20,17 @@ public:
     Paragraph(const StringFace& face, const StringTabs& tabs, std::u16string_view text);
 
     std::u16string_view Text() const { return text_; }
+    /// The whole as it was shaped between its tabs.
+    const std::vector<ShapedString>& Pieces() const { return pieces_; }
     size_t Size() const { return text_.size(); }
     /// Where the pen stands behind a unit, when it stood at `x` before it.
     double Advanced(double x, size_t unit) const;
     double WidthOf(size_t first, size_t end) const;
     /// Whether a cursor may stand before a unit, so that the text may be cut there at need.
-    bool CanCut(size_t unit) const { return places_[unit].is_cursor_position; }
+    bool CanCut(size_t unit) const { return PlaceOf(unit).is_cursor_position; }
     /// Whether a line may begin with a unit.
     bool CanWrap(size_t unit) const {
-        return places_[unit].is_line_break || (unit > 0 && text_[unit - 1] == u'\t');
+        return PlaceOf(unit).is_line_break || (unit > 0 && text_[unit - 1] == u'\t');
     }
     bool IsSpace(size_t unit) const { return text_[unit] == u' ' || text_[unit] == u'\t'; }
     /// `end` without the spaces before it, not below `first`.
@@ -42,10 +44,13 @@ public:
     size_t WordEnd(size_t first, size_t at) const;
 
 private:
+    const PangoLogAttr& PlaceOf(size_t unit) const;
+
     const StringTabs& tabs_;
     const std::u16string_view text_;
+    const std::vector<ShapedString> pieces_;
     std::vector<double> advances_;
-    std::vector<PangoLogAttr> places_;
+    mutable std::vector<PangoLogAttr> places_;  // found when first asked for: what fits isn't cut
 };
 
 }  // namespace vxgui::gdiplus

@@ -44,6 +44,16 @@ ShapedString StringFace::Shape(std::u16string_view text) const {
     return shaped;
 }
 
+std::vector<ShapedString> StringFace::ShapeBetweenTabs(std::u16string_view text) const {
+    std::vector<ShapedString> pieces;
+    for (size_t at = 0; at <= text.size();) {
+        const size_t tab = std::min(text.find(u'\t', at), text.size());
+        pieces.push_back(Shape(text.substr(at, tab - at)));
+        at = tab + 1;
+    }
+    return pieces;
+}
+
 // What has no glyph shows as the missing one of the typeface's own face.
 StringGlyph StringFace::GlyphOf(const PangoGlyphInfo& info, PangoFont* font, bool shapeless) const {
     const double scale = em_ / Typeface::kEm;

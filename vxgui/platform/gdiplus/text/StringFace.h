@@ -36,6 +36,8 @@ public:
 
     /// Neighbours don't change an advance: a text is as wide as its parts.
     ShapedString Shape(std::u16string_view text) const;
+    /// The pieces of a text between its tabs: one more than there are tabs.
+    std::vector<ShapedString> ShapeBetweenTabs(std::u16string_view text) const;
 
     Typeface& Face() const { return *typeface_; }
     const std::shared_ptr<Typeface>& SharedFace() const { return typeface_; }

@@ -57,7 +57,7 @@ private:
         do {
             size_t next = 0;
             const StringLine line = breaker.Next(at, placer_.OnLastLine(), more, &next);
-            AddLine(range.first, text, line);
+            AddLine(range.first, paragraph, line);
             const bool cut = line.dots || line.end < text.size();
             fitted_ = range.first + (line.dots ? line.headEnd : line.end);
             if (!cut) fitted_ = range.next;
@@ -65,10 +65,17 @@ private:
         } while (at < text.size() && placer_.HasRoom());
     }
 
-    void AddLine(size_t first, std::u16string_view text, const StringLine& line) {
+    void AddLine(size_t first, const Paragraph& paragraph, const StringLine& line) {
+        const std::u16string_view text = paragraph.Text();
+        const bool whole = !line.dots && line.first == 0 && line.headEnd == text.size();
+        if (whole) return AddShaped(paragraph.Pieces(), text, MarkIn(first, line));
         std::u16string shown(text.substr(line.first, line.headEnd - line.first));
         if (line.dots) shown.append(kEllipsis).append(text.substr(line.tail, line.end - line.tail));
-        placer_.Add(MakeLine(face_, tabs_, shown, MarkIn(first, line), placer_.RightToLeft()));
+        AddShaped(face_.ShapeBetweenTabs(shown), shown, MarkIn(first, line));
+    }
+
+    void AddShaped(const std::vector<ShapedString>& pieces, std::u16string_view text, size_t mark) {
+        placer_.Add(MakeLine(pieces, tabs_, text, mark, placer_.RightToLeft()));
     }
 
     // The place of the hot key in what is seen of a line.

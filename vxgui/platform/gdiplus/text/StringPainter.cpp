@@ -4,6 +4,8 @@
 
 #include "vxgui/platform/gdiplus/CairoMatrix.h"
 #include "vxgui/platform/gdiplus/DeviceBox.h"
+#include "vxgui/platform/gdiplus/graphics/DrawnWords.h"
+#include "vxgui/platform/gdiplus/words/WordBlends.h"
 
 namespace vxgui::gdiplus {
 namespace {
@@ -67,6 +69,7 @@ public:
                          mask.box.Height};
         const GpRect seen = clips_ ? Common(box, ClipBox()) : box;
         if (IsEmpty(seen)) return Ok;
+        if (DrawnOnWords(mask, box, seen, brush)) return Ok;
         return graphics_.PaintDevice(seen, [&](cairo_t* cairo) {
             const cairo_matrix_t world = CairoMatrix(world_);
             cairo_matrix_t device;
@@ -94,6 +97,22 @@ private:
         kept_.place = place_;
         kept_.hasMask = true;
         return kept_.mask;
+    }
+
+    // One colour on words, within a level clip, takes no drawing library.
+    bool DrawnOnWords(const TextMask& mask, const GpRect& box, const GpRect& seen,
+                      const Brush& brush) const {
+        ARGB color;
+        if (!brush.IsSolid(&color) || graphics_.Replaces()) return false;
+        if (clips_ && !IsUpright(world_)) return false;
+        const ARGB word = WordOf(color);
+        const GpRect drawn = graphics_.Drawable(seen);
+        if (IsEmpty(drawn)) return true;
+        const uint8_t* const coverage = cairo_image_surface_get_data(mask.surface.get());
+        const ptrdiff_t stride = cairo_image_surface_get_stride(mask.surface.get());
+        return DrawOnWords(graphics_, drawn, [&](ARGB* to, INT x, INT y, size_t count) {
+            DrawCovered(to, coverage + (y - box.Y) * stride + (x - box.X), count, word);
+        });
     }
 
     GpRect ClipBox() const {

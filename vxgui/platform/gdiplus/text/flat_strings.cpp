@@ -32,7 +32,10 @@ GpStatus GdipDrawString(GpGraphics* graphics, const WCHAR* string, INT length, c
         if (!found || !arguments) return InvalidParameter;
         if (arguments->text.empty()) return Ok;
         KeptLayout& layout = LayoutOn(target, *found, *arguments);
-        return PaintString(target, layout, arguments->rect, arguments->Format(), paint);
+        const GpStatus status =
+            PaintString(target, layout, arguments->rect, arguments->Format(), paint);
+        FontEngine::Here().Layouts().Weigh(layout);
+        return status;
     });
 }
 
