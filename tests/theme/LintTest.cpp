@@ -99,6 +99,10 @@ TEST(LintThemeSet, ValuesOfItems) {
         {"FrameOrder=0,1,2,x\n", ":8:1: warning: FrameOrder: \"x\" is no number"},
         {"FrameOrder=0,1,2,3,300\n", ":8:1: warning: FrameOrder: \"300\" is out of range"},
         {"FrameOrder=0,1,2,3,255.7\n", ":8:1: warning: FrameOrder: \"255.7\" is out of range"},
+        {"ImageScales=\n", ""},
+        {"ImageScales=x\n", ":8:1: warning: ImageScales: \"x\" is no scale"},
+        {"ImageScales=1\n", ":8:1: warning: ImageScales: \"1\" is no scale"},
+        {"GlyphScales=17\n", ":8:1: warning: GlyphScales: \"17\" is no scale"},
         {"ImageBackColor=1,2\n", ":8:1: warning: ImageBackColor: a colour has three parts"},
         {"ImageBackColor=1,2,3,4,5\n", ":8:1: warning: ImageBackColor: a colour has three parts"},
         {"ImageBackColor=1,2,256\n", ":8:1: warning: ImageBackColor: \"256\" is out of range"},
@@ -159,6 +163,24 @@ TEST(LintThemeSet, Pictures) {
         check("GlyphAlign=1\n"),
         ElementsAre("a.theme:10:1: warning: GlyphAlign has no effect, since no GlyphImage is named",
                     words));
+}
+
+TEST(LintThemeSet, StripsForOtherScales) {
+    const LintFolder skins;
+    skins.WritePicture("strip@2x.bmp", 80, 20);
+    skins.WritePicture("strip@1.5x.bmp", 60, 15);
+    skins.WritePicture("strip@1.25x.bmp", 52, 13);  // 12.5, rounded
+    const std::string lines = kClean + kGlyph;
+    EXPECT_THAT(skins.CheckText("a.theme", lines + "ImageScales=1.25,1.5,2\n"), IsEmpty());
+    EXPECT_THAT(skins.CheckText("a.theme", lines + "ImageScales=1.25,1.5,2\nGlyphScales=3\n"),
+                ElementsAre("a.theme:9:1: error: \"glyph@3x.bmp\" is not there"));
+    skins.WritePicture("glyph@3x.bmp", 40, 30);
+    EXPECT_THAT(skins.CheckText("a.theme", lines + "ImageScales=1.25,1.5,2\nGlyphScales=3\n"),
+                ElementsAre("a.theme:9:1: warning: \"glyph@3x.bmp\" has frames of 10x30, which are "
+                            "stretched to the 30x30 of their scale"));
+    skins.folder.Write("glyph@3x.bmp", "words");
+    EXPECT_THAT(skins.CheckText("a.theme", lines + "ImageScales=1.25,1.5,2\nGlyphScales=3\n"),
+                ElementsAre(HasSubstr("a.theme:9:1: error: \"glyph@3x.bmp\" is no picture")));
 }
 
 TEST(LintThemeSet, UnusedPicturesAreLookedForWhereUsedOnesLie) {

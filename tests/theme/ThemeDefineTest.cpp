@@ -276,7 +276,8 @@ TEST_F(ThemeDefine, TheKeysAreReadInTheirOrderEachWithItsDefault) {
                             "integer GlyphFrameVert 0", "integer GlyphTransMode 2",
                             "integer GlyphAlpha 255", "text GlyphTransColor ", "text GlyphMargin ",
                             "integer GlyphAlign ", "text ContentMargin ", "text FrameOrder ",
-                            "text GlyphFrameOrder ", "text Fonts ", "text TextStyles "));
+                            "text GlyphFrameOrder ", "text Fonts ", "text TextStyles ",
+                            "text ImageScales ", "text GlyphScales "));
 }
 
 TEST_F(ThemeDefine, NoFileRaisesObjectNotSet) {

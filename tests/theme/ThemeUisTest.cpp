@@ -388,7 +388,8 @@ TEST_F(UisItem, TheKeysAreReadInTheirOrderEachWithItsDefault) {
             "integer FocusPressedFont -1", "integer GroupFont -1", "integer SmartSmallMargins 0",
             "integer AnimTimerRate 0", "integer LoopBackDelay 0", "integer MouseEnterStartFrame 0",
             "integer MouseOverStartFrame 0", "integer MouseOverStopFrame 0",
-            "integer MouseLeaveStopFrame 0", "integer MouseLeaveMode 0"));
+            "integer MouseLeaveStopFrame 0", "integer MouseLeaveMode 0", "text ImageScales ",
+            "text GlyphScales "));
 }
 
 TEST(UisFolder, IsItselfAskedForWhenNoImageIsNamed) {

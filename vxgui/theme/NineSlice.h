@@ -18,6 +18,9 @@ struct Span {
 struct Band {
     Span target;
     Span source;
+    /// How far apart its tiles start, where that isn't the size of the source: at most a pixel
+    /// less.
+    double pitch = 0;
 };
 
 /// A frame sliced along one axis into near edge, middle and far edge. All three bands share

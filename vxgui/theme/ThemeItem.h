@@ -8,12 +8,14 @@
 #include "vxgui/theme/FrameTable.h"
 #include "vxgui/theme/Margin.h"
 #include "vxgui/theme/NineSlice.h"
+#include "vxgui/theme/StripScales.h"
 #include "vxgui/theme/ThemeEnums.h"
 #include "vxgui/theme/ThemeOwner.h"
 
 namespace vxgui {
 
 class DefineSection;
+class Scaling;
 class ThemeSet;
 namespace compiled {
 class ItemFields;
@@ -213,6 +215,20 @@ public:
     /// Disabled, on opaque magenta.
     Ref<ThemeItem> CreateMenuArrow() const;
 
+    // High-resolution screens.
+    /// The item as it is painted where `Factor` pixels stand for one, 1/4 to 16: everything that
+    /// is a size is that many times as large and rounded once - margins, frames, fonts, the reach
+    /// of shadows, icons. It draws with the operations of any item, in pixels of the screen. It is
+    /// a copy that doesn't follow this item. Raises for another factor, or without the memory.
+    Ref<ThemeItem> Scaled(double Factor) const;
+    /// The factor that the item was made for; 1 for all that `Scaled` hasn't made.
+    double Scale() const { return scale_; }
+    /// Supplies a strip of the same frames that is drawn for a scale. `Scaled` takes the smallest
+    /// that isn't below its factor, else the largest; margins stay those of scale 1. It counts as
+    /// long as the item keeps the `Image` or `Glyph` that it has now.
+    void AddImageStrip(double Scale, const Ref<cAlphaDIBSection>& Strip);
+    void AddGlyphStrip(double Scale, const Ref<cAlphaDIBSection>& Strip);
+
     // Keeping. docs/formats.md has the keys.
     /// What a reader is known to hold already isn't stored: `DefImage` as the image, `DefFont` as
     /// the font of Normal, `DefTextStyle` as the style of Normal or Disabled. `Flags` are those of
@@ -276,6 +292,9 @@ public:
         int32_t MouseOverStopFrame = 0, MouseLeaveStopFrame = 0, MouseLeaveMode = 0;
     };
     VXGUI_LOCAL UisNumbers& ImportedNumbers() { return imported_; }
+    VXGUI_LOCAL Ref<ThemeItem> ScaledBy(Scaling& scaling) const;
+    VXGUI_LOCAL std::vector<StripAtScale> ImageStrips() const { return imageScales_.Of(image_); }
+    VXGUI_LOCAL std::vector<StripAtScale> GlyphStrips() const { return glyphScales_.Of(glyph_); }
     /// Reads a section of a theme-set define file. Pictures lie in `BasePath`; fonts and styles
     /// are those of `Set`. A list with fewer parts than it must have raises.
     VXGUI_LOCAL void FromThemeDefine(const Ref<core7::DefineFile>& DefineFile,
@@ -303,6 +322,12 @@ private:
     void PaintGlyph(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t frame);
     void PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD, int32_t xS,
                          int32_t yS, int32_t wS, int32_t hS);
+    bool IsTranslucent() const { return imageAlpha_ >= 1 && imageAlpha_ <= 252; }
+    void TakeLooks(const ThemeItem& from);
+    void TakeSizes(const ThemeItem& from, const Scaling& scaling);
+    void ScaleImage(const ThemeItem& from, double factor);
+    void StretchSinglePixels(gdi::SIZE frame, const Margin& cut);
+    void ScaleGlyph(const ThemeItem& from, double factor);
     void PaintIconSurface(gdi::HDC hDC, cAlphaDIBSection& icon, Span x, Span y) const;
     void ReadImage(const DefineSection& read, const String& basePath);
     void ReadGlyph(const DefineSection& read, const String& basePath);
@@ -354,6 +379,13 @@ private:
     int32_t frameCount_ = 0;
     int32_t currentFrame_ = 0;
     int32_t currentGlyphFrame_ = 0;
+    StripScales imageScales_;
+    StripScales glyphScales_;
+    double scale_ = 1;
+    /// How far apart tiles start where that isn't the size of the middle; see `TilePitchOf`.
+    struct {
+        double x = 0, y = 0;
+    } tilePitch_;
 };
 
 }  // namespace vxgui

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/theme/NineSlice.h"
@@ -23,15 +24,30 @@ FrameRect FrameOf(const cAlphaDIBSection& strip, int32_t count, bool vertical, i
     return rect;
 }
 
+// Where tile n starts in its band. Both tiles at an edge take it from here, so that they share it.
+int64_t TileEdge(const Band& band, int64_t n) {
+    return band.pitch > 0 ? static_cast<int64_t>(static_cast<double>(n) * band.pitch + 0.5)
+                          : n * band.source.size;
+}
+
 // Walks a band in steps of its source, the last one cut; or takes it whole, to be stretched.
 template <class Paint>
 void ForEachStep(const Band& band, bool tiled, Paint paint) {
     if (!tiled) return paint(band.target, band.source);
-    const int64_t end = int64_t{band.target.start} + band.target.size;
-    for (int64_t at = band.target.start; at < end; at += band.source.size) {
-        const auto size = static_cast<int32_t>(std::min<int64_t>(band.source.size, end - at));
-        paint(Span{static_cast<int32_t>(at), size}, Span{band.source.start, size});
+    const int64_t end = band.target.size;
+    for (int64_t n = 0, at = 0; at < end; ++n) {
+        const int64_t next = std::min(TileEdge(band, n + 1), end);
+        const auto size = static_cast<int32_t>(next - at);
+        paint(Span{static_cast<int32_t>(band.target.start + at), size},
+              Span{band.source.start, size});
+        at = next;
     }
+}
+
+// The pitch counts for the strip that it was made with, whose middle is the widest tile, and only
+// where the middle isn't cut.
+double TilePitchOf(const Band& band, double pitch) {
+    return pitch > 1 && std::ceil(pitch - 1e-6) == band.source.size ? pitch : 0;
 }
 
 // Calls `paint(target x, target y, source x, source y)` for each step of a piece.
@@ -107,8 +123,10 @@ void ThemeItem::DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD,
 void ThemeItem::PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
                            int32_t frame) {
     const FrameRect rect = FrameOf(*image_, frameCount_, FrameVert(), frame);
-    const SlicedAxis x = SliceAxis({xD, wD}, rect.x, imageMargin_.left, imageMargin_.right);
-    const SlicedAxis y = SliceAxis({yD, hD}, rect.y, imageMargin_.top, imageMargin_.bottom);
+    SlicedAxis x = SliceAxis({xD, wD}, rect.x, imageMargin_.left, imageMargin_.right);
+    SlicedAxis y = SliceAxis({yD, hD}, rect.y, imageMargin_.top, imageMargin_.bottom);
+    x.middle.pitch = TilePitchOf(x.middle, tilePitch_.x);
+    y.middle.pitch = TilePitchOf(y.middle, tilePitch_.y);
     const bool canTileX = x.middle.source.size > 1, canTileY = y.middle.source.size > 1;
     const auto paint = [&](Span targetX, Span targetY, Span sourceX, Span sourceY) {
         PaintImagePiece(hDC, targetX.start, targetY.start, targetX.size, targetY.size,
@@ -129,10 +147,9 @@ void ThemeItem::PaintImagePiece(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD
                                 int32_t xS, int32_t yS, int32_t wS, int32_t hS) {
     if (!image_) return;
     // An alpha of 0 doesn't hide the item: like 253 and above it paints the cheap, opaque way.
-    const bool translucent = imageAlpha_ >= 1 && imageAlpha_ <= 252;
     if (imageFlags_ & kPerPixel) {
         image_->AlphaPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, imageAlpha_, true);
-    } else if (translucent) {
+    } else if (IsTranslucent()) {
         image_->AlphaPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, imageAlpha_, false);
     } else if (imageFlags_ & kTrans) {
         image_->TransPaintPicture(hDC, xD, yD, wD, hD, xS, yS, wS, hS, image_->TransparentColor());

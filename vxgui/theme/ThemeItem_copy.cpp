@@ -17,10 +17,10 @@ Variant ThemeItem::CopyTo(const Ref<ThemeItem>& Value, uint32_t Flags) {
     ThemeItem& to = Require(Value, "ThemeItem.CopyTo");
     const KeepAlive keepTarget(&to);
     const uint32_t fonts = Flags & COPYTO_FontsMask, styles = Flags & COPYTO_TextStylesMask;
-    if (Flags & COPYTO_Image) to.Image(image_);
+    if (Flags & COPYTO_Image) to.Image(image_), to.imageScales_ = imageScales_;
     if (Flags & COPYTO_ImageProp) CopyImageProperties(to);
     if (Flags & COPYTO_ImageMargin) to.imageMargin_ = imageMargin_, to.iconMargin_ = iconMargin_;
-    if (Flags & COPYTO_Glyph) to.Glyph(glyph_);
+    if (Flags & COPYTO_Glyph) to.Glyph(glyph_), to.glyphScales_ = glyphScales_;
     if (Flags & COPYTO_GlyphProp) CopyGlyphProperties(to);
     if (Flags & COPYTO_ContentMargin) to.contentMargin_ = contentMargin_;
     // Both ways at once are neither.

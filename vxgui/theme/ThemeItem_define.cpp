@@ -50,6 +50,21 @@ Ref<cAlphaDIBSection> Load(const String& basePath, const String& name, int32_t b
     return surface->CreateFromPictureFile(path) ? surface : nullptr;
 }
 
+// Calls `add(scale, strip)` for each strip for another scale that the section lists and that is
+// there.
+template <class Add>
+void LoadStrips(const DefineSection& read, const String& kind, const char* imageKey,
+                const String& basePath, Add add) {
+    const std::vector<double> scales = ScalesIn(read.Text((kind + "Scales").Utf8().c_str()));
+    if (scales.empty()) return;
+    const String name = read.Text(imageKey);
+    const int32_t background = ColourOf(read, (kind + "BackColor").Utf8().c_str());
+    for (const double scale : scales) {
+        const Ref<cAlphaDIBSection> strip = Load(basePath, NameAtScale(name, scale), background);
+        if (strip) add(scale, strip);
+    }
+}
+
 // Shares the pool's items with the states: the n-th number of the list belongs to state n.
 template <class Pool>
 void Share(const String& list, const char* prefix, const Ref<Pool>& pool, const Ref<Pool>& own) {
@@ -118,6 +133,11 @@ void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const 
     Share(read.Text("Fonts"), "Font_", Set->Fonts(), fonts_);
     textStyles_ = New<vxgui::TextStyles>();
     Share(read.Text("TextStyles"), "TextStyle_", Set->TextStyles(), textStyles_);
+    if (image_)
+        LoadStrips(read, "Image", "Image", BasePath, [&](auto... at) { AddImageStrip(at...); });
+    if (glyph_)
+        LoadStrips(read, "Glyph", "GlyphImage", BasePath,
+                   [&](auto... at) { AddGlyphStrip(at...); });
 }
 
 }  // namespace vxgui

@@ -1,3 +1,4 @@
+#include "vxgui/theme/ScaledLength.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
@@ -66,6 +67,7 @@ Ref<LFont> ThemeItem::GetStateFont(int32_t State) const {
     if (font) return font;
     font = New<LFont>();
     font->DefaultGuiFont(DEFAULT_QUALITY);
+    font->Height = ScaledLength(font->Height, scale_);
     return font;
 }
 

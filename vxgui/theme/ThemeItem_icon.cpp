@@ -4,6 +4,7 @@
 #include "vxgui/platform/gdi.h"
 #include "vxgui/surface/Himetric.h"
 #include "vxgui/theme/RectLayout.h"
+#include "vxgui/theme/ScaledLength.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
@@ -70,8 +71,8 @@ int32_t ThemeItem::DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t, int
     ClassifiedIcon icon;
     if (!Classify(hDC, Icon.get(), icon)) return -1;
     // A square, on purpose: the height isn't asked for.
-    const int32_t width = iconWidth_ < 1 ? icon.width : iconWidth_;
-    const int32_t height = iconWidth_ < 1 ? icon.height : iconWidth_;
+    const int32_t width = iconWidth_ < 1 ? ScaledLength(icon.width, scale_) : iconWidth_;
+    const int32_t height = iconWidth_ < 1 ? ScaledLength(icon.height, scale_) : iconWidth_;
     Right = WrapSub(Right, iconMargin_.right);
     Bottom = WrapSub(Bottom, iconMargin_.bottom);
     const Span areaX = Between(WrapAdd(Left, iconMargin_.left), Right);
@@ -155,7 +156,7 @@ Ref<ThemeItem> ThemeItem::CreateMenuArrow() const {
     ColumnBrush(dc, StateColour(E_ItemStateDisabled)).PaintTriangle(8, 1, 8);
     Ref<ThemeItem> arrow = New<ThemeItem>();
     arrow->SetImage(surface, 3, 0, Normal, 0, 1);
-    return arrow;
+    return scale_ == 1 ? arrow : arrow->Scaled(scale_);
 }
 
 }  // namespace vxgui

@@ -47,6 +47,35 @@ Ref<cAlphaDIBSection> Load(const UisSource& source, const String& name) {
 
 bool IsPicture(const Ref<cAlphaDIBSection>& surface) { return surface && surface->hDIB(); }
 
+// The strips for other scales that the section lists and that are there.
+std::vector<StripAtScale> LoadStrips(const DefineSection& read, const char* scalesKey,
+                                     const char* imageKey, const UisSource& source,
+                                     const String& fallback) {
+    std::vector<StripAtScale> strips;
+    for (const double scale : ScalesIn(read.Text(scalesKey))) {
+        const String name = NameAtScale(read.Text(imageKey, fallback), scale);
+        const Ref<cAlphaDIBSection> strip = Load(source, NameIn(source, name));
+        if (IsPicture(strip)) strips.push_back({scale, strip});
+    }
+    return strips;
+}
+
+// Where the image's key became alpha, that of its strips does too.
+void AddImageStrips(ThemeItem& item, const DefineSection& read, const UisSource& source,
+                    const String& fallback) {
+    const auto strips = LoadStrips(read, "ImageScales", "Image", source, fallback);
+    const bool keyed = !strips.empty() && read.Integer("Trans") != 0;
+    for (const auto& [scale, strip] : strips) {
+        if (keyed && item.ImageAlpha() < kOpaqueAlpha) strip->SetTransColor(DefaultTransColor);
+        item.AddImageStrip(scale, strip);
+    }
+}
+
+void AddGlyphStrips(ThemeItem& item, const DefineSection& read, const UisSource& source) {
+    for (const auto& [scale, strip] : LoadStrips(read, "GlyphScales", "GlyphImage", source, {}))
+        item.AddGlyphStrip(scale, strip);
+}
+
 // A number that names no colour or font gives way to another one.
 int32_t Or(int32_t number, int32_t other) { return number == -1 ? other : number; }
 
@@ -165,6 +194,8 @@ bool ThemeItem::FromUis(const Ref<core7::DefineFile>& Uis, const UisSource& hDll
         ReadUisFonts(read);
         imported_.SmartSmallMargins = read.Integer("SmartSmallMargins");
         if (frameCount_ > 1) ReadUisAnimation(read);
+        if (image_) AddImageStrips(*this, read, hDll_Path, DefaultImageFilename);
+        if (glyph_) AddGlyphStrips(*this, read, hDll_Path);
     });
 }
 

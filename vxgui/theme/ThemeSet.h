@@ -32,6 +32,9 @@ public:
     Ref<ThemeItem> Item(const String& ItemName) const;
     Ref<ThemeItem> Item(int32_t Index) const;
     void Item(const String& ItemName, const Ref<ThemeItem>& value);
+    /// The set with each item as `ThemeItem::Scaled` makes it, under the same keys; fonts and
+    /// styles that items shared are shared again. A copy that doesn't follow this set.
+    Ref<ThemeSet> Scaled(double Factor);
     /// Lets go of items, fonts and styles. The palette stays.
     void Dispose();
 

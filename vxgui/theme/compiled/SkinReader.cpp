@@ -115,11 +115,25 @@ void SkinReader::ReadFont(const ByteArray& record) {
     AddToPool(skin_.set->Fonts(), fontsInPool_, fonts_, KeyIn(read));
 }
 
+// Calls `add(scale, strip)` for each strip that is supplied for a scale.
+template <class Add>
+void SkinReader::ReadStrips(const FieldReader& read, const String& name, Add add) const {
+    for (int32_t n = 1;; ++n) {
+        const String number = String::FromInt(n);
+        const int32_t thousandths = NumberIn(read, name + "Scale" + number);
+        if (thousandths == 0) return;
+        const auto strip = Numbered(pictures_, NumberIn(read, name + "Strip" + number));
+        if (strip) add(thousandths / 1000.0, strip);
+    }
+}
+
 void SkinReader::ReadItem(const ByteArray& record) {
     const FieldReader read(BagOf(record));
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->Image(Numbered(pictures_, NumberIn(read, "Image")));
     item->Glyph(Numbered(pictures_, NumberIn(read, "Glyph")));
+    ReadStrips(read, "Image", [&](auto... strip) { item->AddImageStrip(strip...); });
+    ReadStrips(read, "Glyph", [&](auto... strip) { item->AddGlyphStrip(strip...); });
     ItemFields::ForEach(*item, read);
     for (int32_t state = 0; state < E_ItemStateMax; ++state) {
         const String number = String::FromInt(state);

@@ -4,6 +4,7 @@
 
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/compiled/Container.h"
+#include "vxgui/theme/compiled/FieldBag.h"
 
 namespace vxgui::compiled {
 
@@ -20,6 +21,8 @@ private:
     void ReadPicture(const ByteArray& bytes);
     void ReadFont(const ByteArray& record);
     void ReadStyle(const ByteArray& record);
+    template <class Add>
+    void ReadStrips(const FieldReader& read, const String& name, Add add) const;
     void ReadItem(const ByteArray& record);
 
     const Container& container_;

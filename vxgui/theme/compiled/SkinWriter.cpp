@@ -1,6 +1,7 @@
 #include "vxgui/theme/compiled/SkinWriter.h"
 
 #include "vxgui/base/LittleEndian.h"
+#include "vxgui/base/Rounding.h"
 #include "vxgui/theme/compiled/FieldBag.h"
 #include "vxgui/theme/compiled/Fields.h"
 #include "vxgui/theme/compiled/PictureBlock.h"
@@ -57,11 +58,23 @@ ByteArray SkinWriter::SetBytes(ThemeSet& set) {
     return bag->Contents();
 }
 
+void SkinWriter::WriteStrips(ole::PropertyBag& bag, const String& name,
+                             const std::vector<StripAtScale>& strips) {
+    int32_t n = 0;
+    for (const auto& [scale, strip] : strips) {
+        const String number = String::FromInt(++n);
+        bag.WriteProperty(name + "Scale" + number, RoundHalfEven(scale * 1000));
+        bag.WriteProperty(name + "Strip" + number, PictureNumber(strip), 0);
+    }
+}
+
 ByteArray SkinWriter::ItemBytes(const ThemeItem& item, const String& key) {
     const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
     if (!key.empty()) bag->WriteProperty("Key", key);
     bag->WriteProperty("Image", PictureNumber(item.Image()), 0);
     bag->WriteProperty("Glyph", PictureNumber(item.Glyph()), 0);
+    WriteStrips(*bag, "Image", item.ImageStrips());
+    WriteStrips(*bag, "Glyph", item.GlyphStrips());
     ItemFields::ForEach(item, FieldWriter(bag));
     for (int32_t state = 0; state < E_ItemStateMax; ++state) {
         const Ref<LFont> font = item.StateFont(state);

@@ -43,6 +43,8 @@ public:
 
 private:
     int32_t PictureNumber(const Ref<cAlphaDIBSection>& picture);
+    void WriteStrips(ole::PropertyBag& bag, const String& name,
+                     const std::vector<StripAtScale>& strips);
     ByteArray SetBytes(ThemeSet& set);
     ByteArray ItemBytes(const ThemeItem& item, const String& key);
     std::vector<ByteArray> ItemRecords(const ThemeItems& items);

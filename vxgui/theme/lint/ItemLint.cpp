@@ -22,8 +22,9 @@ Variant ListOf(const String& list) {
 
 const ItemDialect& ThemeSetDialect() {
     static const ItemDialect dialect{
-        {"strip", "Image", "Frames", "FrameVert", "FrameOrder"},
-        {"glyph's strip", "GlyphImage", "GlyphFrames", "GlyphFrameVert", "GlyphFrameOrder"},
+        {"strip", "Image", "Frames", "FrameVert", "FrameOrder", "ImageScales"},
+        {"glyph's strip", "GlyphImage", "GlyphFrames", "GlyphFrameVert", "GlyphFrameOrder",
+         "GlyphScales"},
         {"image margins", {"ImageMargin", "ImageMargin", "ImageMargin", "ImageMargin"}},
         {"content margins", {"ContentMargin", "ContentMargin", "ContentMargin", "ContentMargin"}},
         true,
@@ -35,8 +36,8 @@ const ItemDialect& ThemeSetDialect() {
 
 const ItemDialect& UisDialect() {
     static const ItemDialect dialect{
-        {"strip", "Image", "FrameCount", nullptr, nullptr},
-        {"glyph's strip", "GlyphImage", "GlyphFrames", nullptr, nullptr},
+        {"strip", "Image", "FrameCount", nullptr, nullptr, "ImageScales"},
+        {"glyph's strip", "GlyphImage", "GlyphFrames", nullptr, nullptr, "GlyphScales"},
         {"image margins", {"LeftWidth", "TopHeight", "RightWidth", "BottomHeight"}},
         {"content margins", {"ContentLeft", "ContentTop", "ContentRight", "ContentBottom"}},
         false,
@@ -61,6 +62,8 @@ void ItemLint::Check(PictureShelf& shelf, const String& folder, const String& fa
     CheckNeeds();
     image_.CheckFrames(page_.Integer(section_, dialect_.image.frames));
     glyph_.CheckFrames(GlyphFrames());
+    image_.CheckScales(shelf);
+    glyph_.CheckScales(shelf);
     CheckStates();
     CheckMargins();
 }

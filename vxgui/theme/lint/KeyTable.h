@@ -22,6 +22,7 @@ enum class ValueKind {
     Sides,        ///< four numbers: left, top, right, bottom
     Tiles,        ///< five numbers: the centre's way to tile, and four flags
     Frames,       ///< a frame for each state
+    Scales,       ///< scales for which there are strips
     Pool,         ///< a number of a font or style for each state
     ColourIndex,  ///< a number of the palette
     FontIndex,    ///< a number of a font

@@ -1,7 +1,10 @@
 #include "vxgui/theme/lint/StripLint.h"
 
 #include <algorithm>
+#include <cstdlib>
 
+#include "vxgui/theme/ScaledLength.h"
+#include "vxgui/theme/StripScales.h"
 #include "vxgui/theme/lint/ValueCheck.h"
 
 namespace vxgui::lint {
@@ -33,6 +36,8 @@ void StripLint::Look(PictureShelf& shelf, const String& folder, const String& fa
     const String given = page_.Text(section_, keys_.image);
     const String name = given.empty() ? fallback : given;
     named_ = !name.empty();
+    folder_ = folder;
+    name_ = name;
     vertical_ = keys_.vertical && page_.Integer(section_, keys_.vertical) != 0;
     if (!named_) return;
     facts_ = shelf.Use(folder, name);
@@ -79,6 +84,31 @@ void StripLint::CheckFrames(int32_t frames) {
                  "the " + what + " of " + Decimal(extent) + " pixels doesn't divide by " +
                      Decimal(frames) + "; the last " + Decimal(over) +
                      (over == 1 ? " pixel" : " pixels") + " never show");
+}
+
+void StripLint::CheckScale(const PictureFacts& facts, const String& name, double scale) {
+    const auto fail = [&](const String& text) {
+        page_.FailAt(section_, keys_.scales, Quoted(name) + text);
+    };
+    if (!facts.exists) return fail(" is not there");
+    if (facts.width < 1 || facts.height < 1)
+        return fail(" is no picture that can be read: BMP, PNG, JPEG, GIF or TGA was expected");
+    const int32_t width = facts.width / (vertical_ ? 1 : frames_);
+    const int32_t height = facts.height / (vertical_ ? frames_ : 1);
+    const int32_t wide = ScaledLength(Width(), scale), high = ScaledLength(Height(), scale);
+    if (std::abs(width - wide) > 1 || std::abs(height - high) > 1)
+        page_.WarnAt(section_, keys_.scales,
+                     Quoted(name) + " has frames of " + Decimal(width) + "x" + Decimal(height) +
+                         ", which are stretched to the " + Decimal(wide) + "x" + Decimal(high) +
+                         " of their scale");
+}
+
+void StripLint::CheckScales(PictureShelf& shelf) {
+    if (!whole_) return;
+    for (const double scale : ScalesIn(page_.Text(section_, keys_.scales))) {
+        const String name = NameAtScale(name_, scale);
+        CheckScale(shelf.Use(folder_, name), name, scale);
+    }
 }
 
 bool StripLint::OrderIsBeyond() {

@@ -13,6 +13,7 @@ struct StripKeys {
     const char* frames;
     const char* vertical;
     const char* order;
+    const char* scales;
 };
 
 /// A section's picture and its frames under check.
@@ -27,6 +28,8 @@ public:
               const char* missing);
     /// Checks the number of frames against the picture.
     void CheckFrames(int32_t frames);
+    /// Checks the strips for other scales; call it when the frames have been checked.
+    void CheckScales(PictureShelf& shelf);
     /// Checks which frames the states show; `frameOf` answers the frame of a state.
     template <class FrameOf>
     void CheckShown(FrameOf frameOf) {
@@ -51,12 +54,15 @@ public:
 private:
     bool Names(const char* key) const { return key && page_.Has(section_, key); }
     void FailAtFrames(const String& text);
+    void CheckScale(const PictureFacts& facts, const String& name, double scale);
     void ReportUnseen(const std::vector<bool>& shown);
 
     Page& page_;
     const String section_;
     const StripKeys keys_;
     PictureFacts facts_;
+    String folder_;
+    String name_;  ///< of the picture
     bool named_ = false;
     bool readable_ = false;
     bool whole_ = false;

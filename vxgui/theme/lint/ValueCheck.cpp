@@ -5,6 +5,7 @@
 #include "vxgui/base/NumberText.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/theme/FrameTable.h"
+#include "vxgui/theme/StripScales.h"
 
 namespace vxgui::lint {
 namespace {
@@ -125,6 +126,17 @@ Result CheckRgb(const String& value) {
     return CheckChannels(parts);
 }
 
+Result CheckScales(const String& value) {
+    for (const String& part : value.Split(u',')) {
+        if (ScalesIn(part).empty())
+            return Warning(Quoted(part.Trim()) +
+                           " is no scale to supply a strip for: 0.25 to 16 are expected, 1 aside");
+        if (!IsNumeric(WithoutRemark(part)))
+            return Warning(Quoted(part.Trim()) + " is no number as a whole");
+    }
+    return {};
+}
+
 Result CheckPair(const String& value) {
     if (value.empty() || IsNumeric(value)) return {};
     return Warning(
@@ -156,7 +168,8 @@ std::optional<Verdict> CheckSystemColour(const String& value) {
 
 std::optional<Verdict> CheckValue(const KeyRule& rule, const String& value) {
     const bool list = rule.kind == ValueKind::Sides || rule.kind == ValueKind::Tiles ||
-                      rule.kind == ValueKind::Frames || rule.kind == ValueKind::Pool;
+                      rule.kind == ValueKind::Frames || rule.kind == ValueKind::Pool ||
+                      rule.kind == ValueKind::Scales;
     if (list && value.empty()) return {};  // the same as none
     switch (rule.kind) {
         case ValueKind::Text:
@@ -176,6 +189,8 @@ std::optional<Verdict> CheckValue(const KeyRule& rule, const String& value) {
             return CheckTiles(rule, value);
         case ValueKind::Frames:
             return CheckPerState(rule, value, -1, FrameTable::kNoFrame);
+        case ValueKind::Scales:
+            return CheckScales(value);
         case ValueKind::Pool:
             return CheckPerState(rule, value, -1, 1e5);
         default:
