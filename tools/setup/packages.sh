@@ -2,8 +2,8 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config libpixman-1-dev libcairo2-dev
   libpango1.0-dev libfreetype-dev libfontconfig-dev libpng-dev libjpeg62-turbo-dev libgif-dev zlib1g-dev
-  libtiff-dev libzstd-dev libcbor-dev libpolyclipping-dev libcli11-dev python3
-  fonts-dejavu-core fonts-wqy-microhei"
+  libtiff-dev libzstd-dev libcbor-dev libpolyclipping-dev libcli11-dev libkainjow-mustache-dev
+  python3 fonts-dejavu-core fonts-wqy-microhei"
 TEST_PACKAGES="$BUILD_PACKAGES libgtest-dev libgmock-dev fonts-noto-core imagemagick icoutils
   qt6-base-dev libsdl2-dev libx11-dev xvfb xdotool doxygen lintian"
 BENCH_PACKAGES="$BUILD_PACKAGES libbenchmark-dev"

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "vxgui/surface/cAlphaDIBSection.h"
+#include "vxgui/theme/ScaledLength.h"
 
 namespace vxgui::tool {
 namespace {
@@ -154,21 +156,52 @@ void PaintGround(Sheet& sheet, SkinDef& skin) {
     wallpaper->PaintPicture(sheet.dc(), 0, 0, sheet.width(), sheet.height());
 }
 
-void PaintPiece(Sheet& sheet, SkinDef& skin, const Piece& piece) {
-    const Ref<ThemeItem> item = skin.Item(piece.part);
-    if (!item) return;
-    item->State(piece.state);
-    item->DrawBackground(sheet.dc(), piece.x, piece.y, piece.width, piece.height, -1, -1);
-    int32_t right = piece.x + piece.width, bottom = piece.y + piece.height;
-    item->DrawText(sheet.dc(), piece.caption, DT_SINGLELINE, -1, piece.x, piece.y, right, bottom);
+// Each edge is rounded once, so that parts that touch still do.
+gdi::RECT BoxOf(const Piece& piece, double scale) {
+    return {ScaledLength(piece.x, scale), ScaledLength(piece.y, scale),
+            ScaledLength(piece.x + piece.width, scale),
+            ScaledLength(piece.y + piece.height, scale)};
+}
+
+void PaintPiece(Sheet& sheet, ThemeItem& item, const Piece& piece) {
+    const gdi::RECT box = BoxOf(piece, item.Scale());
+    item.State(piece.state);
+    item.DrawBackground(sheet.dc(), box.left, box.top, box.right - box.left, box.bottom - box.top,
+                        -1, -1);
+    int32_t right = box.right, bottom = box.bottom;
+    item.DrawText(sheet.dc(), piece.caption, DT_SINGLELINE, -1, box.left, box.top, right, bottom);
+}
+
+/// The parts of a desktop at a scale, each made once.
+class ScaledParts {
+public:
+    ScaledParts(SkinDef& skin, double scale) : skin_(skin), scale_(scale) {}
+
+    Ref<ThemeItem> Item(const char* name) {
+        Ref<ThemeItem>& item = items_[name];
+        const Ref<ThemeItem> plain = item ? nullptr : skin_.Item(name);
+        if (plain) item = plain->Scaled(scale_);
+        return item;
+    }
+
+private:
+    SkinDef& skin_;
+    const double scale_;
+    std::map<std::string, Ref<ThemeItem>> items_;
+};
+
+Disc Times(const Disc& disc, float scale) {
+    return {disc.x * scale, disc.y * scale, disc.radius * scale, disc.colour};
 }
 
 }  // namespace
 
-void PaintDesktop(Sheet& sheet, const Skin& skin) {
+void PaintDesktop(Sheet& sheet, const Skin& skin, double scale) {
     PaintGround(sheet, *skin.desktop);
-    for (const Piece& piece : kPieces) PaintPiece(sheet, *skin.desktop, piece);
-    for (const Disc& disc : kDiscs) PaintDisc(sheet, disc);
+    ScaledParts parts(*skin.desktop, scale);
+    for (const Piece& piece : kPieces)
+        if (const Ref<ThemeItem> item = parts.Item(piece.part)) PaintPiece(sheet, *item, piece);
+    for (const Disc& disc : kDiscs) PaintDisc(sheet, Times(disc, static_cast<float>(scale)));
 }
 
 }  // namespace vxgui::tool

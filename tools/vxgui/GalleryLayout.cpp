@@ -4,6 +4,7 @@
 #include <array>
 
 #include "vxgui/theme/ItemLook.h"
+#include "vxgui/theme/ScaledLength.h"
 
 namespace vxgui::tool {
 namespace {
@@ -17,16 +18,13 @@ constexpr int32_t kCellMargin = 6;
 constexpr int32_t kGap = 8;
 constexpr int32_t kCaptionWidth = 112;
 
-// The item's own size, a wider one, and one that is larger both ways.
-std::array<gdi::SIZE, 3> SizesOf(ThemeItem& item, bool captioned) {
-    const gdi::SIZE own = OwnSize(item);
-    const int32_t wider =
-        std::max(own.cx + std::clamp(own.cx / 2, 24, 72), captioned ? kCaptionWidth : 0);
-    return {own, {wider, own.cy}, {wider, own.cy + std::clamp(own.cy / 2, 16, 48)}};
-}
-
 gdi::RECT Moved(const gdi::RECT& rect, int32_t x, int32_t y) {
     return {rect.left + x, rect.top + y, rect.right + x, rect.bottom + y};
+}
+
+gdi::RECT Times(const gdi::RECT& rect, double factor) {
+    return {ScaledLength(rect.left, factor), ScaledLength(rect.top, factor),
+            ScaledLength(rect.right, factor), ScaledLength(rect.bottom, factor)};
 }
 
 /// Places boxes from left to right and begins a new row where the next one doesn't fit.
@@ -64,7 +62,7 @@ GalleryCard LayOutCard(const SkinItem& shown) {
     GalleryCard card{item, name, caption, {}, {}, {}};
     Flow flow(kCardMargin, kCardMargin + kTitleHeight, kPageWidth - 2 * kPageMargin - kCardMargin,
               kGap);
-    const auto sizes = SizesOf(*item, !caption.empty());
+    const auto sizes = GallerySizes(*item, !caption.empty());
     for (size_t i = 0; i < sizes.size(); ++i) {
         flow.NewRow();
         for (int32_t state = 0; state < E_ItemStateMax; ++state) {
@@ -93,6 +91,13 @@ void MoveCard(GalleryCard& card, int32_t x, int32_t y) {
 
 }  // namespace
 
+std::array<gdi::SIZE, 3> GallerySizes(ThemeItem& item, bool captioned) {
+    const gdi::SIZE own = OwnSize(item);
+    const int32_t wider =
+        std::max(own.cx + std::clamp(own.cx / 2, 24, 72), captioned ? kCaptionWidth : 0);
+    return {own, {wider, own.cy}, {wider, own.cy + std::clamp(own.cy / 2, 16, 48)}};
+}
+
 GalleryPage LayOutGallery(const Skin& skin) {
     GalleryPage page;
     Flow shelves(kPageMargin, kPageMargin, kPageWidth - kPageMargin, kPageMargin);
@@ -105,6 +110,23 @@ GalleryPage LayOutGallery(const Skin& skin) {
     page.width = std::max(shelves.Reach(), kTitleWidth) + kPageMargin;
     page.height = shelves.Bottom() + kPageMargin;
     return page;
+}
+
+GalleryPage ScaledPage(const GalleryPage& page, const Skin& scaled, double factor) {
+    GalleryPage larger = page;
+    larger.width = ScaledLength(page.width, factor);
+    larger.height = ScaledLength(page.height, factor);
+    for (size_t i = 0; i < larger.cards.size(); ++i) {
+        GalleryCard& card = larger.cards[i];
+        card.item = scaled.items[i].item;
+        card.box = Times(card.box, factor);
+        card.title = Times(card.title, factor);
+        for (GalleryCell& cell : card.cells) {
+            cell.ground = Times(cell.ground, factor);
+            cell.item = Times(cell.item, factor);
+        }
+    }
+    return larger;
 }
 
 }  // namespace vxgui::tool

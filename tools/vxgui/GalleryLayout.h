@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "vxgui/platform/gdi_types.h"
@@ -31,8 +32,15 @@ struct GalleryPage {
     std::vector<GalleryCard> cards;
 };
 
+/// The sizes that an item is shown at: its own, a wider one, and one that is larger both ways.
+std::array<gdi::SIZE, 3> GallerySizes(ThemeItem& item, bool captioned);
+
 /// Where everything of a gallery goes: a card for each item, and on it the nine states at the
 /// item's own size and at two larger ones, with the item's caption on those.
 GalleryPage LayOutGallery(const Skin& skin);
+
+/// The page at a factor, with the items of the skin at that factor: each edge of the layout is
+/// scaled and rounded once.
+GalleryPage ScaledPage(const GalleryPage& page, const Skin& scaled, double factor);
 
 }  // namespace vxgui::tool

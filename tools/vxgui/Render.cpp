@@ -3,10 +3,12 @@
 #include <memory>
 
 #include "tools/vxgui/Commands.h"
+#include "tools/vxgui/ScaleOption.h"
 #include "tools/vxgui/Sheet.h"
-#include "tools/vxgui/StraightPixel.h"
 #include "tools/vxgui/ToolError.h"
+#include "tools/vxgui/TransparentSheet.h"
 #include "vxgui/theme/ItemLook.h"
+#include "vxgui/theme/ScaledLength.h"
 #include "vxgui/theme/skin/Skin.h"
 
 namespace vxgui::tool {
@@ -24,6 +26,7 @@ struct Options {
     std::string text;
     std::string icon;
     std::string output;
+    double scale = 1;
 };
 
 int32_t StateOf(const std::string& name) {
@@ -45,6 +48,10 @@ gdi::SIZE SizeOf(const std::string& text) {
     return size;
 }
 
+gdi::SIZE Times(const gdi::SIZE& size, double scale) {
+    return {std::max(ScaledLength(size.cx, scale), 1), std::max(ScaledLength(size.cy, scale), 1)};
+}
+
 // None when none is asked for.
 Ref<cAlphaDIBSection> LoadIcon(const std::string& path) {
     if (path.empty()) return nullptr;
@@ -56,9 +63,8 @@ Ref<cAlphaDIBSection> LoadIcon(const std::string& path) {
     return icon;
 }
 
-void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon, const Options& options,
-           uint32_t ground) {
-    sheet.Fill(ground);
+void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon,
+           const Options& options) {
     item.DrawBackground(sheet.dc(), 0, 0, sheet.width(), sheet.height(), options.frame,
                         options.glyphFrame);
     int32_t right = sheet.width(), bottom = sheet.height();
@@ -71,18 +77,14 @@ void Paint(Sheet& sheet, ThemeItem& item, const Ref<cAlphaDIBSection>& icon, con
 void RenderItem(const Options& options, std::ostream& out) {
     const int32_t state = StateOf(options.state);
     const Skin skin = LoadSkin(options.skin);
-    const Ref<ThemeItem> item = FindItem(skin, options.item);
-    const gdi::SIZE size = options.size.empty() ? OwnSize(*item) : SizeOf(options.size);
+    const Ref<ThemeItem> item = FindItem(skin, options.item)->Scaled(options.scale);
+    const gdi::SIZE size =
+        options.size.empty() ? OwnSize(*item) : Times(SizeOf(options.size), options.scale);
     const Ref<cAlphaDIBSection> icon = LoadIcon(options.icon);
     item->State(state);
-    Sheet black(size.cx, size.cy), white(size.cx, size.cy);
-    Paint(black, *item, icon, options, 0xFF000000);
-    Paint(white, *item, icon, options, 0xFFFFFFFF);
-    for (int32_t y = 0; y < size.cy; ++y) {
-        for (int32_t x = 0; x < size.cx; ++x)
-            black.At(x, y) = StraightPixelOf(black.At(x, y), white.At(x, y));
-    }
-    black.WritePng(options.output);
+    Sheet sheet(size.cx, size.cy);
+    PaintTransparent(sheet, [&](Sheet& ground) { Paint(ground, *item, icon, options); });
+    sheet.WritePng(options.output);
     out << options.output << ": " << size.cx << "x" << size.cy << "\n";
 }
 
@@ -94,12 +96,12 @@ void AddRender(CLI::App& app, std::ostream& out) {
         app.add_subcommand("render", "Paint one item of a skin, with its transparency");
     command->add_option("SKIN", options->skin, kSkinHelp)->required();
     command->add_option("--item", options->item, "The item's name, or its section")->required();
-    command
-        ->add_option("--state", options->state, "State to paint it in, Normal when left out")
+    command->add_option("--state", options->state, "State to paint it in, Normal when left out")
         ->type_name(
             "{Normal,MouseOver,Pressed,Disabled,Default,Focus,FocusPressed,Group,FocusMouseOver}");
     command->add_option("--size", options->size,
-                        "WIDTHxHEIGHT in pixels; the item's own size when left out");
+                        "WIDTHxHEIGHT in pixels of scale 1; the item's own size when left out");
+    AddScaleOption(*command, options->scale);
     command->add_option("--frame", options->frame,
                         "Frame of the image; that of the state when left out");
     command->add_option("--glyph-frame", options->glyphFrame,
@@ -108,8 +110,10 @@ void AddRender(CLI::App& app, std::ostream& out) {
     command->add_option("--icon", options->icon, "Picture file, placed as the item's icons are");
     command->add_option("-o,--output", options->output, "PNG file to write")->required();
     command->footer(
-        "Example:\n  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver "
-        "--size 120x34 -o button.png");
+        "Examples:\n"
+        "  vxgui render skins/aurora/aurora.theme --item PushButton --state MouseOver --size "
+        "120x34 -o button.png\n"
+        "  vxgui render skins/aurora/aurora.theme --item PushButton --scale 1.5 -o large.png");
     command->callback([options, &out] { RenderItem(*options, out); });
 }
 

@@ -26,6 +26,15 @@ size_t CheckedArea(int32_t width, int32_t height) {
     return static_cast<size_t>(area);
 }
 
+png_image PngHeader(int32_t width, int32_t height) {
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(width);
+    image.height = static_cast<png_uint_32>(height);
+    image.format = PNG_FORMAT_BGRA;
+    return image;
+}
+
 }  // namespace
 
 Sheet::Sheet(int32_t width, int32_t height)
@@ -50,12 +59,18 @@ void Sheet::MakeOpaque() {
     for (uint32_t& pixel : pixels_) pixel |= 0xFF000000;
 }
 
+ByteArray Sheet::Png() const {
+    png_image image = PngHeader(width_, height_);
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(image);
+    ByteArray bytes(size);
+    if (!png_image_write_to_memory(&image, bytes.data(), &size, 0, pixels_.data(), 0, nullptr))
+        throw ToolError(std::string("error: no PNG can be made: ") + image.message);
+    bytes.resize(size);
+    return bytes;
+}
+
 void Sheet::WritePng(const std::string& path) const {
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(width_);
-    image.height = static_cast<png_uint_32>(height_);
-    image.format = PNG_FORMAT_BGRA;
+    png_image image = PngHeader(width_, height_);
     errno = 0;
     if (png_image_write_to_file(&image, path.c_str(), 0, pixels_.data(), 0, nullptr)) return;
     throw ToolError(path +

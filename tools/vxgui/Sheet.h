@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "vxgui/base/Variant.h"
 #include "vxgui/platform/gdi.h"
 
 namespace vxgui::tool {
@@ -29,6 +30,8 @@ public:
     void FillChecks(int32_t x, int32_t y, int32_t width, int32_t height);
     /// Drawing leaves the alpha byte in many states; this makes every pixel opaque.
     void MakeOpaque();
+    /// A PNG file.
+    ByteArray Png() const;
     /// Writes a PNG; a `ToolError` when it can't be written.
     void WritePng(const std::string& path) const;
 
