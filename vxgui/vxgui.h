@@ -30,4 +30,5 @@
 #include "vxgui/theme/ItemLook.h"
 #include "vxgui/theme/ItemPainter.h"
 #include "vxgui/theme/ThemeSetFile.h"
+#include "vxgui/theme/skin/ScaledSkin.h"
 #include "vxgui/theme/skin/Skin.h"

@@ -68,6 +68,8 @@ std::string TypeOf(ValueKind kind) {
             return "tiles";
         case ValueKind::Frames:
             return "frames";
+        case ValueKind::Scales:
+            return "scales";
         case ValueKind::Pool:
             return "numbers";
         case ValueKind::ColourIndex:

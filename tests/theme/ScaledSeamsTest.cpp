@@ -5,6 +5,7 @@
 #include <set>
 #include <tuple>
 
+#include "generated/Places.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/theme/skin/Skin.h"
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "generated/Places.h"
 #include "tests/tools/ToolCall.h"
 
 namespace vxgui::tool {

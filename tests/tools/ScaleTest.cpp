@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "generated/Places.h"
 #include "tests/support/Golden.h"
 #include "tests/tools/ToolCall.h"
 #include "vxgui/platform/gdi_types.h"
