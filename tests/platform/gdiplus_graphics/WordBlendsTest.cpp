@@ -128,6 +128,22 @@ TEST(WordBlends, MultiplyStraightWordsBeforeTheyAreDrawn) {
     EXPECT_EQ(ours, expected);
 }
 
+// Icons have runs of clear and of opaque pixels, which end anywhere.
+TEST(WordBlends, DrawRunsOfClearAndOpaqueWordsLikeAnyOthers) {
+    for (const size_t length : {1, 15, 63, 64, 65, 200}) {
+        std::vector<ARGB> from = AnyWords(3000, 6);
+        for (size_t i = 0; i < from.size(); ++i) {
+            if (i / length % 3 == 0) from[i] &= 0x00FFFFFF;
+            if (i / length % 3 == 1) from[i] |= 0xFF000000;
+        }
+        std::vector<ARGB> ours = AnyWords(from.size(), 7), expected = ours, multiplied = from;
+        std::ranges::transform(from, multiplied.begin(), Premultiplied);
+        DrawWords(expected.data(), multiplied.data(), expected.size());
+        DrawStraight(ours.data(), from.data(), ours.size());
+        EXPECT_EQ(ours, expected) << length;
+    }
+}
+
 TEST(WordBlends, DrawAColorThroughEveryCoverageAsTheLibraryDoes) {
     std::vector<uint8_t> coverage(256 * 64);
     for (size_t i = 0; i < coverage.size(); ++i) coverage[i] = static_cast<uint8_t>(i);
