@@ -12,7 +12,7 @@ namespace {
 
 using kainjow::mustache::data;
 
-const char* const kSample = "Sphinx of black quartz, judge my vow – 0123456789 确定";
+const char* const kSample = "Sphinx of black quartz, judge my vow – 0123456789";
 constexpr int32_t kBold = 600;
 
 std::string DescriptionOf(const LFont& font) {
