@@ -48,9 +48,8 @@ VXPLATFORM_API size_t GetSize(const ByteArray& compressed);
 /// The content; none for what is not compressed, is damaged, says more than the limit, or holds
 /// another amount than it says.
 VXPLATFORM_API std::optional<ByteArray> Decompress(const ByteArray& compressed);
-/// What a frame may claim to hold, looked at before memory is taken; the host may set another
-/// for its apartment.
-VXPLATFORM_API size_t& ApartmentDecompressionLimit();
+/// What a frame may claim to hold in the calling apartment: a part of `ApartmentLimits`.
+inline size_t& ApartmentDecompressionLimit() { return ApartmentLimits().decompressedBytes; }
 
 /// The CRC-32 of the bytes, as PNG and others use it (ISO 3309).
 VXPLATFORM_API uint32_t Checksum(const uint8_t* bytes, size_t size);

@@ -5,6 +5,7 @@
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
 #include "vxgui/base/String.h"
+#include "vxgui/platform/limits.h"
 
 /// Define files: the text files that skins and theme sets are authored in.
 namespace vxgui::core7 {
@@ -65,12 +66,9 @@ public:
 };
 VXPLATFORM_API Ref<DefineFile> CreateDefineFile();
 
-/// Bounds on what a define file may be; the host may set others for its apartment.
-struct DefineLimits {
-    size_t bytes = 4u << 20;  ///< of a file; of a text, its 16-bit units
-    size_t keys = 100000;     ///< lines with a key or a section header
-};
-VXPLATFORM_API DefineLimits& ApartmentDefineLimits();
+/// The bounds of define files in the calling apartment: a part of `ApartmentLimits`.
+using vxgui::DefineLimits;
+inline DefineLimits& ApartmentDefineLimits() { return ApartmentLimits().define; }
 
 /// Changes single values of a define file and leaves everything else of it as it is: order,
 /// comments, blanks and the spelling of names.
@@ -84,7 +82,8 @@ public:
     /// of two lines.
     virtual void SetString(const String& section, const String& key, const String& value) = 0;
     virtual String Text() const = 0;
-    /// Writes the text as UTF-8. False, with the reason in `kernel::GetLastError`, when it fails.
+    /// Writes the text as UTF-8, whole or not at all. False, with the reason in
+    /// `kernel::GetLastError`, when it fails.
     virtual bool Save(const String& path) = 0;
 };
 VXPLATFORM_API Ref<DefineEditor> CreateDefineEditor();

@@ -38,12 +38,17 @@ public:
 VXPLATFORM_API PathService& ThePathService();
 
 /// The file service: a whole file at once. False, with the reason in `kernel::GetLastError`, for
-/// what is no plain file, cannot be read or is longer than `limit`; `bytes` is then empty.
-VXPLATFORM_API bool ReadWholeFile(const String& path, ByteArray* bytes, size_t limit = 1u << 30);
-/// Makes or replaces the file. A failed write leaves the part that was written.
+/// what is no plain file, cannot be read or is longer than `limit`; `bytes` is then empty. The
+/// limit of the short form is the apartment's.
+VXPLATFORM_API bool ReadWholeFile(const String& path, ByteArray* bytes, size_t limit);
+VXPLATFORM_API bool ReadWholeFile(const String& path, ByteArray* bytes);
+/// Makes or replaces the file, whole or not at all: the bytes go to a file beside it, to the disk,
+/// and then under its name. False, with the reason in `kernel::GetLastError`; what was there is
+/// then still there. A link stays and its target is replaced; a device is written to as it is.
 VXPLATFORM_API bool WriteWholeFile(const String& path, const void* data, size_t size);
 
-/// A file that is written piece by piece; the object's end closes it.
+/// A file that is written piece by piece; the object's end closes it. A failed write leaves the
+/// part that was written.
 class VXPLATFORM_API OutputFile : public Object {
 public:
     /// False when not all of it could be written, with the reason in `kernel::GetLastError`;
@@ -53,6 +58,10 @@ public:
 /// Makes the file or empties the one that is there; none, with the reason in
 /// `kernel::GetLastError`, when that fails.
 VXPLATFORM_API Ref<OutputFile> CreateOutputFile(const String& path);
+
+/// Whether what `path` leads to, links followed, lies in `folder` or below it. What isn't there
+/// lies where its nearest folder that is there does; the empty folder is the current one.
+VXPLATFORM_API bool IsWithin(const String& path, const String& folder);
 
 /// The path as the operating system takes it: UTF-8, with "/" for "\". Skins are authored where
 /// letter case does not matter: a part that does not exist as written becomes the entry that

@@ -1,5 +1,7 @@
 #include "vxgui/theme/CompiledSkin.h"
 
+#include "vxgui/base/OutOfMemory.h"
+#include "vxgui/platform/limits.h"
 #include "vxgui/theme/compiled/Container.h"
 #include "vxgui/theme/compiled/SkinReader.h"
 #include "vxgui/theme/compiled/SkinWriter.h"
@@ -8,9 +10,6 @@ namespace vxgui {
 namespace {
 
 const char* const kSource = "CompiledSkin";
-
-// A file's own bound: more would be refused for its sections anyway.
-constexpr size_t kMostFileBytes = size_t{128} << 20;
 
 // Calls `work` and gives the errors that it raises the path as their source.
 template <class Work>
@@ -22,6 +21,15 @@ auto WithPath(const String& path, Work work) {
     }
 }
 
+// What is wrong with a part is wrong with the whole; running out of memory is no damage.
+CompiledSkin ReadSkin(const ByteArray& file) try {
+    return compiled::SkinReader(compiled::Container(file)).Read();
+} catch (const Error& error) {
+    const bool damaged = error.Number() != static_cast<int32_t>(ErrorNumber::OutOfMemory);
+    if (!damaged || error.Source() == String(kSource)) throw;
+    compiled::RaiseDamaged("damaged: " + error.Description());
+}
+
 String Reason() { return core7::CreateSystemInformation()->ErrorText(kernel::GetLastError()); }
 
 }  // namespace
@@ -30,35 +38,39 @@ bool IsCompiledSkin(const ByteArray& file) { return compiled::IsContainer(file);
 
 bool IsCompiledSkinFile(const String& path) {
     ByteArray file;
-    return core7::ReadWholeFile(path, &file, kMostFileBytes) && IsCompiledSkin(file);
+    return core7::ReadWholeFile(path, &file, ApartmentLimits().skinFileBytes) &&
+           IsCompiledSkin(file);
 }
 
-CompiledSkin CompiledSkinFrom(const ByteArray& file) try {
-    return compiled::SkinReader(compiled::Container(file)).Read();
-} catch (const Error& error) {
-    if (error.Source() == String(kSource)) throw;
-    compiled::RaiseDamaged("damaged: " + error.Description());
+CompiledSkin CompiledSkinFrom(const ByteArray& file) {
+    return WithinMemory(kSource, [&] { return ReadSkin(file); });
 }
 
-ByteArray BytesOfCompiledSkin(const CompiledSkin& skin) {
+ByteArray BytesOfCompiledSkin(const CompiledSkin& skin) try {
     return compiled::WriteContainer(compiled::SkinWriter().Write(skin));
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("CompiledSkin");
 }
 
-CompiledSkin LoadCompiledSkin(const String& path) {
+CompiledSkin LoadCompiledSkin(const String& path) try {
     return WithPath(path, [&] {
         ByteArray file;
-        if (!core7::ReadWholeFile(path, &file, kMostFileBytes))
+        if (!core7::ReadWholeFile(path, &file, ApartmentLimits().skinFileBytes))
             throw Error(ErrorNumber::FileNotFound, kSource, Reason());
         return CompiledSkinFrom(file);
     });
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("CompiledSkin");
 }
 
-void SaveCompiledSkin(const CompiledSkin& skin, const String& path) {
+void SaveCompiledSkin(const CompiledSkin& skin, const String& path) try {
     WithPath(path, [&] {
         const ByteArray file = BytesOfCompiledSkin(skin);
         if (!core7::WriteWholeFile(path, file.data(), file.size()))
             throw Error(ErrorNumber::PathNotFound, kSource, Reason());
     });
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("CompiledSkin");
 }
 
 }  // namespace vxgui

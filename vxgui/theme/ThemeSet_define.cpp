@@ -1,11 +1,10 @@
+#include "vxgui/platform/limits.h"
 #include "vxgui/theme/ThemeSet.h"
 
 namespace vxgui {
 namespace {
 
 const char* const kSetSection = "ThemeSet";
-// More than any file has; a slip of the keyboard would else fill the memory with default items.
-constexpr int32_t kMostSections = 100000;
 
 // Calls `read(section)` for each numbered section. A count of 0 leaves the pool as it was, so
 // `reset` runs only when there is something to read.
@@ -14,7 +13,8 @@ void ReadPool(core7::DefineFile& file, const char* countKey, const char* prefix,
               Read read) {
     const int32_t count = file.GetInteger(kSetSection, countKey, "0");
     if (count == 0) return;
-    if (count > kMostSections)
+    // A slip of the keyboard would else fill the memory with default items.
+    if (count > ApartmentLimits().themeSections)
         throw Error(ErrorNumber::Overflow, "ThemeSet", String("Too many sections: ") + countKey);
     reset();
     for (int32_t n = 1; n <= count; ++n) read(NumberedSection(prefix, n));

@@ -1,4 +1,5 @@
 #include "vxgui/platform/gdi/PixelBlocks.h"
+#include "vxgui/platform/limits.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ TEST(PixelBlocks, ABlockThatWasGivenBackServesAgainAndIsZeroed) {
 
 TEST(PixelBlocks, NoneForNothingAndForTheAbsurd) {
     EXPECT_EQ(TakePixels(0).bits, nullptr);
-    EXPECT_EQ(TakePixels(kLargestPixelBlock + 1).bits, nullptr);
+    EXPECT_EQ(TakePixels(ApartmentLimits().bitmapBytes + 1).bits, nullptr);
     EXPECT_EQ(TakeRawPixels(SIZE_MAX).bits, nullptr);
     GivePixelsBack({});
 }

@@ -40,11 +40,6 @@ const Codec* CodecOf(Bytes bytes) {
 
 }  // namespace
 
-DecodeLimits& ApartmentDecodeLimits() {
-    static thread_local DecodeLimits limits;
-    return limits;
-}
-
 ImageDecoder::~ImageDecoder() = default;
 
 bool ImageDecoder::DecodeIndexes(const PixelRows&) { return false; }

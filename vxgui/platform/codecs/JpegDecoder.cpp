@@ -13,7 +13,6 @@ namespace {
 
 // A progressive picture needs about ten scans; a file of a megabyte can hold a hundred thousand,
 // each of which walks the whole picture.
-constexpr int kMostScans = 200;
 
 struct ErrorManager {
     jpeg_error_mgr base;
@@ -34,7 +33,8 @@ void OnMessage(j_common_ptr info, int level) {
 }
 
 void OnProgress(j_common_ptr info) {
-    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > kMostScans) Leave(info);
+    if (reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > ApartmentLimits().jpegScans)
+        Leave(info);
 }
 
 // 255 is no ink in files of the CMYK kind that carry the Adobe mark, which are nearly all.

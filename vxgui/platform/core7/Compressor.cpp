@@ -64,9 +64,4 @@ uint32_t Checksum(const uint8_t* bytes, size_t size) {
     return static_cast<uint32_t>(crc32_z(0, bytes, size));
 }
 
-size_t& ApartmentDecompressionLimit() {
-    thread_local size_t limit = 1u << 30;
-    return limit;
-}
-
 }  // namespace vxgui::core7

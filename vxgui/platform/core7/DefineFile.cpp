@@ -86,11 +86,6 @@ String Place(int32_t number) { return number > 0 ? String::FromInt(number) + ":"
 
 Ref<DefineFile> CreateDefineFile() { return New<ParsedDefineFile>(); }
 
-DefineLimits& ApartmentDefineLimits() {
-    thread_local DefineLimits limits;
-    return limits;
-}
-
 String DescribeProblem(const String& path, const DefineProblem& problem) {
     const String place =
         (path.empty() ? path : path + ":") + Place(problem.line) + Place(problem.column);

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 
 #include "vxgui/platform/gdi/DeviceContext.h"
 #include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/OutOfMemory.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
@@ -26,7 +28,7 @@ bool RowsHold(const HostPixels& pixels) {
 
 }  // namespace
 
-HDC CreateHostDC(const HostPixels& pixels) {
+HDC CreateHostDC(const HostPixels& pixels) try {
     if (!RowsHold(pixels)) return nullptr;
     BitmapShape shape;
     shape.width = pixels.width;
@@ -37,12 +39,21 @@ HDC CreateHostDC(const HostPixels& pixels) {
         std::make_unique<Bitmap>(shape, PixelBlock{static_cast<uint8_t*>(pixels.bits), 0, false});
     bitmap->MakePermanent();
     GdiRef<Bitmap> entered = Enter(std::move(bitmap));
-    return entered ? EnterContext(std::make_unique<DeviceContext>(std::move(entered))) : nullptr;
+    if (!entered) return nullptr;
+    const GdiRef<Bitmap> kept = entered;
+    const HDC dc = OrOutOfMemory(
+        HDC(), [&] { return EnterContext(std::make_unique<DeviceContext>(std::move(entered))); });
+    if (!dc) kept->Delete();  // nobody else knows it
+    return dc;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
-HDC CreateCompatibleDC(HDC dc) {
+HDC CreateCompatibleDC(HDC dc) try {
     if (dc && !FindContext(dc)) return nullptr;
     return EnterContext(std::make_unique<DeviceContext>());
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 BOOL DeleteDC(HDC dc) {

@@ -1,4 +1,5 @@
 #include <cstring>
+#include <new>
 
 #include "vxgui/platform/gdi/DeviceColors.h"
 #include "vxgui/platform/gdi/DeviceContext.h"
@@ -6,20 +7,23 @@
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/StockObjects.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::gdi {
 namespace {
 
 GdiRef<Bitmap> MakeBitmap(const BitmapShape& shape, const ColorTable* colors) {
-    const PixelBlock block =
-        TakePixels(static_cast<size_t>(shape.stride) * static_cast<size_t>(shape.height));
-    if (!block.bits) return nullptr;
     auto table = colors ? std::make_unique<ColorTable>(*colors) : nullptr;
-    return Enter(std::make_unique<Bitmap>(shape, block, std::move(table)));
+    HeldPixels pixels(
+        TakePixels(static_cast<size_t>(shape.stride) * static_cast<size_t>(shape.height)));
+    if (!pixels.Get().bits) return nullptr;
+    auto bitmap = std::make_unique<Bitmap>(shape, pixels.Get(), std::move(table));
+    pixels.Release();
+    return Enter(std::move(bitmap));
 }
 
 bool FitsABlock(int64_t stride, int64_t height) {
-    return stride <= static_cast<int64_t>(kLargestPixelBlock) / height;
+    return stride <= static_cast<int64_t>(ApartmentLimits().bitmapBytes) / height;
 }
 
 GdiRef<Bitmap> MakeDibSection(const DibForm& form) {
@@ -63,7 +67,7 @@ GdiRef<Bitmap> MakeLike(const Bitmap& model, int32_t width, int32_t height) {
 
 }  // namespace
 
-HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
+HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) try {
     const bool served = bitCount == 1 || bitCount == 8 || bitCount == 24 || bitCount == 32;
     if (width < 0 || height < 0 || planes != 1 || !served) return nullptr;
     if (width == 0 || height == 0) return HandleOf(StockBitmap());
@@ -72,18 +76,22 @@ HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const vo
         std::memcpy(bitmap->Bits(), bits, static_cast<size_t>(bitmap->Shape().stride * height));
     }
     return HandleOf(bitmap);
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
-HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
+HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if ((dc && !context) || width < 0 || height < 0) return nullptr;
     if (width == 0 || height == 0) return HandleOf(StockBitmap());
     if (!context) return HandleOf(MakeDeviceBitmap(width, height, 32));
     return HandleOf(MakeLike(*context->state.bitmap, width, height));
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
-                         DWORD) {
+                         DWORD) try {
     if (bits) *bits = nullptr;
     DibForm form;
     // A file mapping as the memory is another platform's matter.
@@ -91,6 +99,8 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
     const GdiRef<Bitmap> bitmap = MakeDibSection(form);
     if (bitmap && bits) *bits = bitmap->Bits();
     return HandleOf(bitmap);
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 }  // namespace vxgui::gdi

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "vxgui/platform/gdi/Dib.h"
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/RopBlit.h"
@@ -24,9 +26,11 @@ int OrNatural(int extent, int natural) { return extent == kNatural ? natural : e
 
 }  // namespace
 
-HDRAWDIB DrawDibOpen() {
+HDRAWDIB DrawDibOpen() try {
     const GdiRef<DibDrawer> drawer = Enter(std::make_unique<DibDrawer>());
     return drawer ? drawer->Handle() : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 BOOL DrawDibClose(HDRAWDIB handle) {

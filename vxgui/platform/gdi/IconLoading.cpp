@@ -1,6 +1,7 @@
 #include "vxgui/platform/gdi/IconLoading.h"
 
 #include <cstring>
+#include <new>
 
 #include "vxgui/platform/codecs/IconFile.h"
 #include "vxgui/platform/core7.h"
@@ -57,7 +58,7 @@ HICON IconOfFileBytes(const void* bytes, size_t size) {
 }
 
 HANDLE LoadImageA(HANDLE module, const String& filename, UINT type, int width, int height,
-                  UINT flags) {
+                  UINT flags) try {
     const bool served = type == IMAGE_ICON || type == IMAGE_CURSOR;
     if (module || !served || width != 0 || height != 0 || !(flags & LR_LOADFROMFILE)) {
         return nullptr;
@@ -65,6 +66,8 @@ HANDLE LoadImageA(HANDLE module, const String& filename, UINT type, int width, i
     ByteArray bytes;
     if (!core7::ReadWholeFile(filename, &bytes)) return nullptr;
     return IconOfFileBytes(bytes.data(), bytes.size());
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 }  // namespace vxgui::gdi

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <new>
 
 #include "vxgui/platform/gdi/ArgbBlit.h"
 #include "vxgui/platform/gdi/HandleTable.h"
@@ -70,18 +71,22 @@ bool Draw(const IconPainter& painter, const Icon& icon, UINT flags) {
 
 }  // namespace
 
-HICON CreateIconIndirect(const ICONINFO* info) {
+HICON CreateIconIndirect(const ICONINFO* info) try {
     std::unique_ptr<Icon> made = info ? MakeIcon(*info) : nullptr;
     if (!made) return nullptr;
     const GdiRef<Icon> icon = Enter(std::move(made));
     return icon ? static_cast<HICON>(icon->Handle()) : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
-BOOL GetIconInfo(HICON handle, ICONINFO* info) {
+BOOL GetIconInfo(HICON handle, ICONINFO* info) try {
     const GdiRef<Icon> icon = Find<Icon>(handle);
     if (!icon || !info) return 0;
     *info = icon->Describe();
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 BOOL DestroyIcon(HICON handle) {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
+
+#include "vxgui/platform/gdi/PixelSource.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -22,7 +24,7 @@ class BlockStore {
 public:
     ~BlockStore() {
         storeClosed = true;
-        while (count_ > 0) std::free(Remove(0).bits);
+        while (count_ > 0) PixelSource::Current().GiveBack(Remove(0).bits);
     }
 
     // The smallest block that serves; none when there is none.
@@ -37,7 +39,7 @@ public:
 
     void Keep(const PixelBlock& block) {
         while (count_ == kKeptBlocks || bytes_ + block.capacity > kKeptBytes) {
-            std::free(Remove(0).bits);
+            PixelSource::Current().GiveBack(Remove(0).bits);
         }
         blocks_[count_++] = block;
         bytes_ += block.capacity;
@@ -64,31 +66,34 @@ BlockStore& TheStore() {
 
 PixelBlock TakeKept(size_t size) { return storeClosed ? PixelBlock{} : TheStore().Take(size); }
 
+PixelBlock FreshBlock(size_t size, bool cleared) {
+    uint8_t* const bits = PixelSource::Current().Take(size, cleared);
+    return {bits, bits ? size : 0, bits != nullptr};
+}
+
 }  // namespace
 
 PixelBlock TakePixels(size_t size) {
-    if (size == 0 || size > kLargestPixelBlock) return {};
+    if (size == 0 || size > ApartmentLimits().bitmapBytes) return {};
     const PixelBlock kept = TakeKept(size);
     if (kept.bits) {
         std::memset(kept.bits, 0, size);
         return kept;
     }
-    auto* bits = static_cast<uint8_t*>(std::calloc(size, 1));
-    return {bits, bits ? size : 0, bits != nullptr};
+    return FreshBlock(size, true);
 }
 
 PixelBlock TakeRawPixels(size_t size) {
-    if (size == 0 || size > kLargestPixelBlock) return {};
+    if (size == 0 || size > ApartmentLimits().bitmapBytes) return {};
     const PixelBlock kept = TakeKept(size);
     if (kept.bits) return kept;
-    auto* bits = static_cast<uint8_t*>(std::malloc(size));
-    return {bits, bits ? size : 0, bits != nullptr};
+    return FreshBlock(size, false);
 }
 
 void GivePixelsBack(const PixelBlock& block) {
     if (!block.owned) return;
-    if (storeClosed || block.capacity > kKeptBytes) {
-        std::free(block.bits);
+    if (storeClosed || block.capacity > kKeptBytes || !PixelSource::Current().IsReusable()) {
+        PixelSource::Current().GiveBack(block.bits);
     } else {
         TheStore().Keep(block);
     }

@@ -5,6 +5,8 @@
 #include <new>
 #include <utility>
 
+#include "vxgui/platform/gdi/RegionCost.h"
+
 namespace vxgui::gdi {
 namespace {
 
@@ -82,28 +84,29 @@ bool PixelRegion::Overlaps(const RECT& rect) const {
 }
 
 bool PixelRegion::Combine(const PixelRegion& a, const PixelRegion& b, int mode) {
+    if (mode < RGN_AND || mode > RGN_COPY) return false;
+    if (mode != RGN_COPY) Expect(MayBeCombined(a.Boxes(), b.Boxes()));
+    // What pixman can't finish it leaves broken, so this region gets the result when it is there.
+    *this = Combined(a, b, mode);
+    return true;
+}
+
+PixelRegion PixelRegion::Combined(const PixelRegion& a, const PixelRegion& b, int mode) {
+    PixelRegion result;
     switch (mode) {
         case RGN_AND:
-            Expect(pixman_region32_intersect(&region_, &a.region_, &b.region_));
-            return true;
+            Expect(pixman_region32_intersect(&result.region_, &a.region_, &b.region_));
+            return result;
         case RGN_OR:
-            Expect(pixman_region32_union(&region_, &a.region_, &b.region_));
-            return true;
-        case RGN_XOR: {
-            PixelRegion onlyB;
-            Expect(pixman_region32_subtract(&onlyB.region_, &b.region_, &a.region_));
-            Expect(pixman_region32_subtract(&region_, &a.region_, &b.region_));
-            Expect(pixman_region32_union(&region_, &region_, &onlyB.region_));
-            return true;
-        }
+            Expect(pixman_region32_union(&result.region_, &a.region_, &b.region_));
+            return result;
+        case RGN_XOR:
+            return Combined(Combined(a, b, RGN_DIFF), Combined(b, a, RGN_DIFF), RGN_OR);
         case RGN_DIFF:
-            Expect(pixman_region32_subtract(&region_, &a.region_, &b.region_));
-            return true;
-        case RGN_COPY:
-            Expect(pixman_region32_copy(&region_, &a.region_));
-            return true;
+            Expect(pixman_region32_subtract(&result.region_, &a.region_, &b.region_));
+            return result;
         default:
-            return false;
+            return a;
     }
 }
 

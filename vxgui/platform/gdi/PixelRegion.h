@@ -10,7 +10,8 @@ namespace vxgui::gdi {
 
 /// A set of pixels, kept by pixman as rectangles in bands from the top, equal neighbours merged,
 /// so that equal sets have equal rectangles. A value: copied and moved freely. Holds any 32-bit
-/// coordinates; running out of memory throws std::bad_alloc.
+/// coordinates; running out of memory throws std::bad_alloc, and so does what would have more
+/// rectangles than the apartment's limit.
 class PixelRegion {
 public:
     PixelRegion() { pixman_region32_init(&region_); }
@@ -48,6 +49,8 @@ public:
     friend bool operator==(const PixelRegion& a, const PixelRegion& b);
 
 private:
+    static PixelRegion Combined(const PixelRegion& a, const PixelRegion& b, int mode);
+
     pixman_region32_t region_;
 };
 

@@ -1,13 +1,17 @@
+#include <new>
+
 #include "vxgui/platform/gdi/DeviceContext.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
 
-int SaveDC(HDC handle) {
+int SaveDC(HDC handle) try {
     const GdiRef<DeviceContext> dc = FindContext(handle);
     if (!dc) return 0;
     dc->saved.push_back(dc->state);
     return static_cast<int>(dc->saved.size());
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 BOOL RestoreDC(HDC handle, int level) {

@@ -5,13 +5,12 @@
 #include <vector>
 
 #include "vxgui/platform/kernel/ModuleTable.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::kernel {
 
 namespace {
 
-/// Style modules are a few megabytes; more than this is a mistake or an attack.
-constexpr uintmax_t kLargestFile = 256u << 20;
 /// Where the DOS header says at which offset the signature "PE\0\0" stands.
 constexpr size_t kSignatureOffsetAt = 0x3C;
 
@@ -33,7 +32,7 @@ private:
 std::vector<uint8_t> ReadBytes(const std::string& path) {
     std::error_code failed;
     const uintmax_t size = std::filesystem::file_size(path, failed);
-    if (failed || size > kLargestFile) return {};
+    if (failed || size > ApartmentLimits().moduleBytes) return {};
     std::vector<uint8_t> bytes(size);
     std::ifstream file(path, std::ios::binary);
     file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));

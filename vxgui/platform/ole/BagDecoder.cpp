@@ -4,6 +4,7 @@
 
 #include "vxgui/base/Error.h"
 #include "vxgui/base/Utf.h"
+#include "vxgui/platform/limits.h"
 #include "vxgui/platform/ole/BagCoding.h"
 
 namespace vxgui::ole {
@@ -79,6 +80,7 @@ public:
         if (map.kind != Item::Kind::kMap) Refuse("There is no map");
         // An entry takes two bytes at the least.
         if (map.number > (bytes_.size() - at_) / 2) Refuse("More entries than bytes are claimed");
+        if (map.number > ApartmentLimits().bagEntries) Refuse("More entries than the limit allows");
         std::vector<BagEntry> entries;
         while (entries.size() < map.number) {
             String name = Name();

@@ -1,13 +1,11 @@
 #include <algorithm>
 #include <cstring>
 
+#include "vxgui/platform/limits.h"
 #include "vxgui/platform/ole_stream.h"
 
 namespace vxgui::ole {
 namespace {
-
-// What a stream may grow to; a size that a careless seek asks for must not be allocated.
-constexpr uint64_t kMostBytes = uint64_t{1} << 31;
 
 class MemoryStream final : public IStream {
 public:
@@ -33,7 +31,8 @@ uint32_t MemoryStream::Read(void* buffer, uint32_t size) {
 }
 
 uint32_t MemoryStream::Write(const void* bytes, uint32_t size) {
-    if (size == 0 || position_ > kMostBytes - size) return 0;
+    const uint64_t most = ApartmentLimits().streamBytes;
+    if (size == 0 || size > most || position_ > most - size) return 0;
     if (position_ + size > memory_.size() && !SetSize(position_ + size)) return 0;
     std::memcpy(memory_.data() + position_, bytes, size);
     position_ += size;
@@ -52,7 +51,7 @@ std::optional<uint64_t> MemoryStream::Seek(int64_t move, SeekOrigin origin) {
 }
 
 bool MemoryStream::SetSize(uint64_t size) {
-    if (size > kMostBytes) return false;
+    if (size > ApartmentLimits().streamBytes) return false;
     memory_.resize(size);
     return true;
 }

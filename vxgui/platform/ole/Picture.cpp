@@ -1,9 +1,11 @@
 #include "vxgui/platform/ole/Picture.h"
 
 #include <cstring>
+#include <new>
 
 #include "vxgui/base/LittleEndian.h"
 #include "vxgui/platform/gdi_dib.h"
+#include "vxgui/platform/gdi_icons.h"
 #include "vxgui/platform/ole/IconPicture.h"
 
 namespace vxgui::ole {
@@ -82,10 +84,14 @@ Ref<Picture> PictureOfIcon(gdi::HGDIOBJ handle, bool own) {
 
 }  // namespace
 
-Ref<Picture> OleCreatePictureIndirect(gdi::HGDIOBJ handle, int16_t type, bool own) {
+Ref<Picture> OleCreatePictureIndirect(gdi::HGDIOBJ handle, int16_t type, bool own) try {
     if (!handle) return nullptr;
     if (type == kPictureBitmap) return PictureOfBitmap(handle, own);
     return type == kPictureIcon ? PictureOfIcon(handle, own) : nullptr;
+} catch (const std::bad_alloc&) {  // what was handed over has nobody else to end it
+    if (own && type == kPictureBitmap) gdi::DeleteObject(handle);
+    if (own && type == kPictureIcon) gdi::DestroyIcon(static_cast<gdi::HICON>(handle));
+    throw;
 }
 
 }  // namespace vxgui::ole

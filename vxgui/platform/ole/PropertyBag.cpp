@@ -1,6 +1,8 @@
 #include <map>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/OutOfMemory.h"
+#include "vxgui/platform/limits.h"
 #include "vxgui/platform/ole.h"
 #include "vxgui/platform/ole/BagCoding.h"
 
@@ -59,28 +61,39 @@ struct PropertyBag::Store {
 PropertyBag::PropertyBag() : store_(std::make_unique<Store>()) {}
 PropertyBag::~PropertyBag() = default;
 
-Variant PropertyBag::ReadProperty(const String& name, const Variant& fallback) const {
+Variant PropertyBag::ReadProperty(const String& name, const Variant& fallback) const try {
     const BagEntry* entry = store_->Find(name);
     return entry ? ToVariant(entry->value) : fallback;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.ReadProperty");
 }
 
-void PropertyBag::WriteProperty(const String& name, const Variant& value, const Variant& fallback) {
+void PropertyBag::WriteProperty(const String& name, const Variant& value, const Variant& fallback) try {
     if (value == fallback) return store_->Remove(name);
     store_->Set(name, std::visit(ToBagValue(), value.storage()));
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.WriteProperty");
 }
 
 bool PropertyBag::Has(const String& name) const { return store_->Find(name) != nullptr; }
 
-std::vector<String> PropertyBag::Names() const {
+std::vector<String> PropertyBag::Names() const try {
     std::vector<String> names;
     for (const BagEntry& entry : store_->entries) names.push_back(entry.name);
     return names;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.Names");
 }
 
-ByteArray PropertyBag::Contents() const { return EncodeBag(store_->entries); }
+ByteArray PropertyBag::Contents() const try {
+    return EncodeBag(store_->entries);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.Contents");
+}
 
-void PropertyBag::Contents(const ByteArray& bytes) {
+void PropertyBag::Contents(const ByteArray& bytes) try {
     auto store = std::make_unique<Store>();
+    if (bytes.size() > ApartmentLimits().bagBytes) RefuseBag("More bytes than the limit allows");
     if (!bytes.empty()) {
         for (BagEntry& entry : DecodeBag(bytes)) {
             const String name = entry.name;
@@ -88,6 +101,8 @@ void PropertyBag::Contents(const ByteArray& bytes) {
         }
     }
     store_ = std::move(store);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.Contents");
 }
 
 }  // namespace vxgui::ole

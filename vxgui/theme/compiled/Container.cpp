@@ -6,6 +6,7 @@
 #include "vxgui/base/Error.h"
 #include "vxgui/base/LittleEndian.h"
 #include "vxgui/platform/core7.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::compiled {
 namespace {
@@ -16,10 +17,6 @@ constexpr size_t kVersionAt = 4, kSizeAt = 8, kChecksumAt = 12, kCountAt = 16;
 constexpr size_t kHeaderSize = 20;
 constexpr size_t kCheckedFrom = kCountAt;  // the checksum covers all that follows it
 constexpr size_t kEntrySize = 12;
-// Of all sections together, uncompressed. A picture is there twice while it is read.
-constexpr size_t kMostBytes = size_t{96} << 20;
-// Far more pictures than a skin has; an object takes more memory than the few bytes of a section.
-constexpr size_t kMostSections = 10000;
 
 uint32_t Load(const ByteArray& file, size_t at) { return LoadLittle<uint32_t>(file.data() + at); }
 
@@ -33,14 +30,20 @@ uint32_t ChecksumOf(const ByteArray& file) {
 
 String Number(size_t value) { return String::FromInt(static_cast<int64_t>(value)); }
 
+// Smaller limits than one mebibyte are told to the byte.
+String InMebibytes(size_t bytes) {
+    return bytes >> 20 ? Number(bytes >> 20) + " MiB" : Number(bytes) + " bytes";
+}
+
 void CheckTotal(const std::vector<Section>& sections) {
     size_t total = 0;
     for (const Section& section : sections) total += section.bytes.size();
-    if (sections.size() > kMostSections)
+    if (sections.size() > ApartmentLimits().skinSections)
         throw Error(ErrorNumber::Overflow, "CompiledSkin", "too many pictures");
-    if (total <= kMostBytes) return;
-    throw Error(ErrorNumber::Overflow, "CompiledSkin",
-                "too large: pictures and all, it may have " + Number(kMostBytes >> 20) + " MiB");
+    if (total <= ApartmentLimits().skinBytes) return;
+    throw Error(
+        ErrorNumber::Overflow, "CompiledSkin",
+        "too large: pictures and all, it may have " + InMebibytes(ApartmentLimits().skinBytes));
 }
 
 }  // namespace
@@ -95,7 +98,7 @@ void Container::ReadTable() {
     const size_t count = Load(file_, kCountAt);
     if (count > (file_.size() - kHeaderSize) / kEntrySize)
         RaiseDamaged("damaged: its table goes beyond its end");
-    if (count > kMostSections) RaiseDamaged("refused: too many sections");
+    if (count > ApartmentLimits().skinSections) RaiseDamaged("refused: too many sections");
     size_t offset = kHeaderSize + kEntrySize * count, total = 0;
     entries_.reserve(count);
     for (size_t at = kHeaderSize; entries_.size() < count; at += kEntrySize) {
@@ -104,9 +107,9 @@ void Container::ReadTable() {
         total += entry.size;
         if (entry.storedSize > file_.size() - offset)
             RaiseDamaged("damaged: a section goes beyond its end");
-        if (total > kMostBytes)
-            RaiseDamaged("refused: its sections are larger than " + Number(kMostBytes >> 20) +
-                         " MiB");
+        if (total > ApartmentLimits().skinBytes)
+            RaiseDamaged("refused: its sections are larger than " +
+                         Number(ApartmentLimits().skinBytes >> 20) + " MiB");
         offset += entry.storedSize;
         entries_.push_back(entry);
     }

@@ -1,18 +1,17 @@
 #include "vxgui/base/Error.h"
 #include "vxgui/base/LittleEndian.h"
+#include "vxgui/platform/limits.h"
 #include "vxgui/theme/compiled/Container.h"
 
 namespace vxgui::compiled {
 namespace {
 
 constexpr size_t kSizeBytes = 4;
-// As many as a define file may have sections: an object takes more memory than its record.
-constexpr size_t kMostRecords = 100000;
 
 }  // namespace
 
 ByteArray JoinRecords(const std::vector<ByteArray>& records) {
-    if (records.size() > kMostRecords)
+    if (records.size() > ApartmentLimits().skinRecords)
         throw Error(ErrorNumber::Overflow, "CompiledSkin", "too many items, fonts or styles");
     ByteArray bytes;
     for (const ByteArray& record : records) {
@@ -31,7 +30,8 @@ std::vector<ByteArray> SplitRecords(const ByteArray& bytes) {
         const size_t size = rest < kSizeBytes ? rest : LoadLittle<uint32_t>(bytes.data() + at);
         if (rest < kSizeBytes || size > rest - kSizeBytes)
             RaiseDamaged("damaged: a record goes beyond its section");
-        if (records.size() == kMostRecords) RaiseDamaged("refused: too many records in a section");
+        if (records.size() == ApartmentLimits().skinRecords)
+            RaiseDamaged("refused: too many records in a section");
         const auto begin = bytes.begin() + static_cast<std::ptrdiff_t>(at + kSizeBytes);
         records.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(size));
         at += kSizeBytes + size;

@@ -1,6 +1,7 @@
 #include <map>
 #include <set>
 
+#include "vxgui/platform/limits.h"
 #include "vxgui/theme/ThemeSet.h"
 #include "vxgui/theme/lint/ItemLint.h"
 #include "vxgui/theme/lint/NearestName.h"
@@ -11,7 +12,6 @@ namespace vxgui::lint {
 namespace {
 
 const char* const kSetSection = "ThemeSet";
-constexpr int32_t kMostSections = 100000;  // as the reader takes
 constexpr int32_t kMostNamed = 3;  // of the sections that a count promises and that aren't there
 
 /// A numbered family of sections, and the key of [ThemeSet] that counts them.
@@ -73,9 +73,11 @@ void ThemeSetLint::CheckCount(Family& family) {
         page_.WarnAt(kSetSection, family.countKey,
                      String(family.countKey) + " is " + String::FromInt(family.count) + ", but " +
                          missing + (found > 1 ? " are" : " is") + " not there");
-    if (family.count > kMostSections)
+    const int32_t most = ApartmentLimits().themeSections;
+    if (family.count > most)
         page_.FailAt(kSetSection, family.countKey,
-                     String(family.countKey) + " is above 100000, which ends the loading");
+                     String(family.countKey) + " is above " + String::FromInt(most) +
+                         ", which ends the loading");
     if (&family == &themes_ && family.count < 1)
         page_.FailAt(kSetSection,
                      "no items; the key Themes says how many sections [Theme_01], "

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "vxgui/platform/gdi/DeviceContext.h"
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/shapes/PatternBrush.h"
@@ -13,13 +15,17 @@ HBRUSH EnterBrush(std::unique_ptr<Brush> brush) {
 
 }  // namespace
 
-HBRUSH CreateSolidBrush(COLORREF color) {
+HBRUSH CreateSolidBrush(COLORREF color) try {
     return EnterBrush(std::make_unique<Brush>(LOGBRUSH{BS_SOLID, color, 0}));
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
-HBRUSH CreatePatternBrush(HBITMAP bitmap) {
+HBRUSH CreatePatternBrush(HBITMAP bitmap) try {
     const GdiRef<Bitmap> found = Find<Bitmap>(bitmap);
     return found ? EnterBrush(std::make_unique<PatternBrush>(*found)) : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 BOOL SetBrushOrgEx(HDC dc, int x, int y, POINT* old) {

@@ -1,4 +1,5 @@
 #include "vxgui/platform/gdi/DeviceContext.h"
+#include "vxgui/platform/gdi/OutOfMemory.h"
 #include "vxgui/platform/gdi/shapes/RegionHandles.h"
 #include "vxgui/platform/gdi_shapes.h"
 
@@ -20,7 +21,8 @@ int CombineClip(DeviceContext& dc, const PixelRegion& region, int mode) {
 
 int CombineClipRect(HDC dc, const RECT& rect, int mode) {
     const GdiRef<DeviceContext> context = FindContext(dc);
-    return context ? CombineClip(*context, PixelRegion(rect), mode) : ERROR;
+    if (!context) return ERROR;
+    return OrOutOfMemory(ERROR, [&] { return CombineClip(*context, PixelRegion(rect), mode); });
 }
 
 }  // namespace
@@ -35,7 +37,8 @@ int ExtSelectClipRgn(HDC dc, HRGN region, int mode) {
         return SIMPLEREGION;
     }
     const GdiRef<Region> found = FindRegion(region);
-    return found ? CombineClip(*context, found->shape, mode) : ERROR;
+    if (!found) return ERROR;
+    return OrOutOfMemory(ERROR, [&] { return CombineClip(*context, found->shape, mode); });
 }
 
 int IntersectClipRect(HDC dc, int left, int top, int right, int bottom) {
@@ -49,10 +52,12 @@ int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom) {
 int GetClipBox(HDC dc, RECT* box) {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if (!context || !box) return ERROR;
-    PixelRegion visible(context->Target().Bounds());
-    if (context->state.clip) visible.Combine(visible, *context->state.clip, RGN_AND);
-    *box = visible.Bounds();
-    return visible.Kind();
+    return OrOutOfMemory(ERROR, [&] {
+        PixelRegion visible(context->Target().Bounds());
+        if (context->state.clip) visible.Combine(visible, *context->state.clip, RGN_AND);
+        *box = visible.Bounds();
+        return visible.Kind();
+    });
 }
 
 int GetClipRgn(HDC dc, HRGN region) {
@@ -60,8 +65,10 @@ int GetClipRgn(HDC dc, HRGN region) {
     const GdiRef<Region> found = FindRegion(region);
     if (!context || !found) return -1;
     if (!context->state.clip) return 0;
-    found->shape = *context->state.clip;
-    return 1;
+    return OrOutOfMemory(-1, [&] {
+        found->shape = *context->state.clip;
+        return 1;
+    });
 }
 
 }  // namespace vxgui::gdi

@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "vxgui/platform/limits.h"
+
 namespace vxgui::gdi {
 namespace {
 
@@ -38,7 +40,8 @@ public:
     }
 
     std::optional<PixelRegion> Run() {
-        if (crossingCount_ > kMostCrossings) return std::nullopt;
+        if (crossingCount_ > static_cast<double>(ApartmentLimits().regionSteps))
+            return std::nullopt;
         std::ranges::sort(edges_, {}, &Edge::first);
         int32_t row = bounds_.top;
         for (size_t next = 0; next < edges_.size() || !active_.empty(); ++row) {

@@ -1,4 +1,5 @@
 #include <array>
+#include <new>
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/platform/gdi/shapes/DcPath.h"
@@ -35,24 +36,28 @@ std::vector<PathPoint> ArcPoints(const DeviceContext& dc, RECT box, POINT start,
 
 }  // namespace
 
-BOOL MoveToEx(HDC dc, int x, int y, POINT* old) {
+BOOL MoveToEx(HDC dc, int x, int y, POINT* old) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if (!context) return 0;
     if (old) *old = context->state.position;
     context->state.position = {x, y};
     if (DcPath* const path = OpenPath(*context)) path->StartFigure();
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
-BOOL LineTo(HDC dc, int x, int y) {
+BOOL LineTo(HDC dc, int x, int y) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if (!context) return 0;
     LineThrough(*context, std::array{PathPointOf({x, y})});
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 BOOL Arc(HDC dc, int left, int top, int right, int bottom, int startX, int startY, int endX,
-         int endY) {
+         int endY) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if (!context) return 0;
     const std::vector<PathPoint> points =
@@ -64,16 +69,20 @@ BOOL Arc(HDC dc, int left, int top, int right, int bottom, int startX, int start
         Stroke(*context, points);
     }
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 BOOL ArcTo(HDC dc, int left, int top, int right, int bottom, int startX, int startY, int endX,
-           int endY) {
+           int endY) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if (!context) return 0;
     const std::vector<PathPoint> points =
         ArcPoints(*context, {left, top, right, bottom}, {startX, startY}, {endX, endY});
     if (!points.empty()) LineThrough(*context, points);
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 int SetArcDirection(HDC dc, int direction) {

@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <new>
 
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/Pen.h"
@@ -6,7 +7,7 @@
 
 namespace vxgui::gdi {
 
-HPEN CreatePen(int style, int width, COLORREF color) {
+HPEN CreatePen(int style, int width, COLORREF color) try {
     if (style < 0 || style > static_cast<int>(PS_INSIDEFRAME) || width == INT32_MIN) return nullptr;
     const int pixels = std::abs(width);
     const bool broken = style >= static_cast<int>(PS_DASH) && style < static_cast<int>(PS_NULL);
@@ -14,6 +15,8 @@ HPEN CreatePen(int style, int width, COLORREF color) {
     const UINT drawn = broken && pixels > 1 ? PS_SOLID : static_cast<UINT>(style);
     const GdiRef<Pen> pen = Enter(std::make_unique<Pen>(LOGPEN{drawn, {pixels, 0}, color}));
     return pen ? static_cast<HPEN>(pen->Handle()) : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 }  // namespace vxgui::gdi

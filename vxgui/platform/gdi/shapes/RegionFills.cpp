@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/OutOfMemory.h"
 #include "vxgui/platform/gdi/shapes/FillArea.h"
 #include "vxgui/platform/gdi/shapes/RegionHandles.h"
 #include "vxgui/platform/gdi_shapes.h"
@@ -41,8 +42,10 @@ BOOL FrameRgn(HDC dc, HRGN region, HBRUSH brush, int width, int height) {
     const GdiRef<Region> shape = FindRegion(region);
     const GdiRef<Brush> found = Find<Brush>(brush);
     if (!context || !shape || !found) return 0;
-    FillArea(*context, FrameOf(shape->shape, width, height), *found);
-    return 1;
+    return OrOutOfMemory(BOOL{0}, [&] {
+        FillArea(*context, FrameOf(shape->shape, width, height), *found);
+        return BOOL{1};
+    });
 }
 
 BOOL PaintRgn(HDC dc, HRGN region) {

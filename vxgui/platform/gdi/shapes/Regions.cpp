@@ -1,14 +1,17 @@
 #include <cstring>
 
 #include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/OutOfMemory.h"
 #include "vxgui/platform/gdi/shapes/RegionHandles.h"
 #include "vxgui/platform/gdi_shapes.h"
 
 namespace vxgui::gdi {
 
 HRGN EnterRegion(PixelRegion region) {
-    const GdiRef<Region> entered = Enter(std::make_unique<Region>(std::move(region)));
-    return entered ? static_cast<HRGN>(entered->Handle()) : nullptr;
+    return OrOutOfMemory(HRGN(), [&] {
+        const GdiRef<Region> entered = Enter(std::make_unique<Region>(std::move(region)));
+        return entered ? static_cast<HRGN>(entered->Handle()) : nullptr;
+    });
 }
 
 GdiRef<Region> FindRegion(HRGN region) { return Find<Region>(region); }
@@ -33,7 +36,10 @@ int CombineRgn(HRGN target, HRGN a, HRGN b, int mode) {
     const GdiRef<Region> first = FindRegion(a);
     const GdiRef<Region> second = mode == RGN_COPY ? first : FindRegion(b);
     if (!result || !first || !second) return ERROR;
-    return result->shape.Combine(first->shape, second->shape, mode) ? result->shape.Kind() : ERROR;
+    return OrOutOfMemory(ERROR, [&] {
+        const bool done = result->shape.Combine(first->shape, second->shape, mode);
+        return done ? result->shape.Kind() : ERROR;
+    });
 }
 
 BOOL EqualRgn(HRGN a, HRGN b) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 #include "vxgui/platform/gdi/text/DrawTextCall.h"
 #include "vxgui/platform/gdi/text/TextArgument.h"
@@ -40,16 +41,21 @@ int DrawAny(HDC dc, std::u16string_view text, RECT* rect, UINT flags, char16_t* 
 
 }  // namespace
 
-int DrawTextW(HDC dc, char16_t* text, int count, RECT* rect, UINT flags) {
+int DrawTextW(HDC dc, char16_t* text, int count, RECT* rect, UINT flags) try {
     std::u16string_view view;
     return TextArgument(text, count, &view) ? DrawAny(dc, view, rect, flags, text) : 0;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
-int DrawTextA(HDC dc, const char* text, int count, RECT* rect, UINT flags) {
+int DrawTextA(HDC dc, const char* text, int count, RECT* rect, UINT flags) try {
     if (count < -1 || (!text && count != 0)) return 0;
     const size_t bytes = count == -1 ? std::strlen(text) : static_cast<size_t>(count);
+    if (bytes > ApartmentLimits().textUnits) return 0;
     const String wide = kernel::TextFromAnsi({text, bytes});
     return DrawAny(dc, wide.view(), rect, flags, nullptr);
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 }  // namespace vxgui::gdi

@@ -88,12 +88,19 @@ FT_Int32 LoadFlags(const FaceScale& scale) {
 
 std::atomic<uint64_t> lastFaceId{0};
 
+struct EndFace {
+    void operator()(FT_Face face) const { FT_Done_Face(face); }
+};
+
 }  // namespace
 
 std::shared_ptr<FontFace> FontFace::Open(FT_Library library, const std::string& file, int index) {
     FT_Face face = nullptr;
     if (FT_New_Face(library, file.c_str(), index, &face) != 0) return nullptr;
-    return std::shared_ptr<FontFace>(new FontFace(face, ++lastFaceId));
+    std::unique_ptr<FT_FaceRec, EndFace> held(face);
+    auto* const opened = new FontFace(face, ++lastFaceId);
+    static_cast<void>(held.release());
+    return std::shared_ptr<FontFace>(opened);
 }
 
 FontFace::FontFace(FT_Face face, uint64_t id) : face_(face), id_(id), design_(ReadDesign(face)) {}

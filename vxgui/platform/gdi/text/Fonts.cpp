@@ -1,4 +1,5 @@
 #include <cstring>
+#include <new>
 
 #include "vxgui/platform/gdi/Font.h"
 #include "vxgui/platform/gdi/HandleTable.h"
@@ -6,10 +7,12 @@
 
 namespace vxgui::gdi {
 
-HFONT CreateFontIndirectA(const LOGFONTA* font) {
+HFONT CreateFontIndirectA(const LOGFONTA* font) try {
     if (!font) return nullptr;
     const GdiRef<Font> entered = Enter(std::make_unique<Font>(*font));
     return entered ? static_cast<HFONT>(entered->Handle()) : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,

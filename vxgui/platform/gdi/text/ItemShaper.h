@@ -15,6 +15,9 @@ struct FreeItems {
                          [](gpointer item) { pango_item_free(static_cast<PangoItem*>(item)); });
     }
 };
+struct FreeList {
+    void operator()(GList* list) const { g_list_free(list); }
+};
 struct FreeGlyphs {
     void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
 };
@@ -50,10 +53,9 @@ void ShapeItems(PangoContext* context, PangoAttrList* attributes, const Utf8Text
     const std::unique_ptr<GList, FreeItems> logical(
         pango_itemize_with_base_dir(context, base, text.bytes.data(), 0,
                                     static_cast<int>(text.bytes.size()), attributes, nullptr));
-    GList* visual = pango_reorder_items(logical.get());
-    for (const GList* at = visual; at; at = at->next)
+    const std::unique_ptr<GList, FreeList> visual(pango_reorder_items(logical.get()));
+    for (const GList* at = visual.get(); at; at = at->next)
         ShapeItem(text, *static_cast<PangoItem*>(at->data), sink);
-    g_list_free(visual);
 }
 
 /// A longer line is shaped in pieces of this many units, one after the other, so that memory and

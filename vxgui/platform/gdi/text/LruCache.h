@@ -26,7 +26,12 @@ public:
     /// Enters a value that isn't there yet. It stays even when it is beyond the bound alone.
     Value* Insert(Key key, Value value, size_t cost) {
         entries_.push_front({std::move(key), std::move(value), cost});
-        places_.emplace(entries_.front().key, entries_.begin());
+        try {
+            places_.emplace(entries_.front().key, entries_.begin());
+        } catch (...) {  // an entry without a place would never be found
+            entries_.pop_front();
+            throw;
+        }
         cost_ += cost;
         DropSurplus();
         return &entries_.front().value;

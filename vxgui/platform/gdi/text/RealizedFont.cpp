@@ -22,30 +22,36 @@ bool SmoothingOff(const LOGFONTA& record) {
     return record.lfQuality == kNonAntialiased;
 }
 
+struct FreeDescription {
+    void operator()(PangoFontDescription* description) const {
+        pango_font_description_free(description);
+    }
+};
+
 int32_t Turn(LONG tenths) { return (tenths % 3600 + 3600) % 3600; }
 
 }  // namespace
 
+RealizedFont::RealizedFont(TextEngine& engine, const LOGFONTA& record, uint64_t id,
+                           PangoContext* context)
+    : engine_(engine), record_(record), id_(id), context_(context) {}
+
 RealizedFont::RealizedFont(TextEngine& engine, const LOGFONTA& record, uint64_t id)
-    : engine_(engine),
-      record_(record),
-      id_(id),
-      context_(pango_font_map_create_context(engine.FontMap())) {
-    PangoFontDescription* description = DescriptionOf(record);
+    : RealizedFont(engine, record, id, pango_font_map_create_context(engine.FontMap())) {
+    const std::unique_ptr<PangoFontDescription, FreeDescription> held(DescriptionOf(record));
+    PangoFontDescription* const description = held.get();
     pango_context_set_language(context_, LanguageOf(record));
     pango_context_set_round_glyph_positions(context_, FALSE);
     // The em follows from the face, and a face is found at any size.
     pango_font_description_set_absolute_size(description, 16.0 * PANGO_SCALE);
-    Known own;
-    own.font = LoadOwn(description);
-    if (own.font) own.used = Use(own.font);
-    faces_.push_back(std::move(own));
+    faces_.emplace_back();
+    faces_[0].font = LoadOwn(description);
+    if (faces_[0].font) faces_[0].used = Use(faces_[0].font);
     Measure();
     faces_[0].used.scale.em = measures_.em;
     faces_[0].used.scale.horizontal = horizontal_;
     pango_font_description_set_absolute_size(description, double{PANGO_SCALE} * measures_.em);
     pango_context_set_font_description(context_, description);
-    pango_font_description_free(description);
 }
 
 RealizedFont::~RealizedFont() {
@@ -129,7 +135,8 @@ size_t RealizedFont::FaceOf(PangoFont* font) {
     const auto known = std::find_if(faces_.begin(), faces_.end(),
                                     [font](const Known& one) { return one.font == font; });
     if (known != faces_.end()) return static_cast<size_t>(known - faces_.begin());
-    faces_.push_back({static_cast<PangoFont*>(g_object_ref(font)), Use(font)});
+    faces_.push_back({nullptr, Use(font)});
+    faces_.back().font = static_cast<PangoFont*>(g_object_ref(font));
     return faces_.size() - 1;
 }
 

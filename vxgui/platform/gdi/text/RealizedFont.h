@@ -60,6 +60,9 @@ public:
     size_t FaceOf(PangoFont* font);
 
 private:
+    /// As yet without a face: what follows may run out of memory, and is then cleaned up.
+    RealizedFont(TextEngine& engine, const LOGFONTA& record, uint64_t id, PangoContext* context);
+
     struct Known {
         PangoFont* font = nullptr;
         UsedFace used;

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "vxgui/platform/gdi/text/TextArgument.h"
 #include "vxgui/platform/gdi/text/TextOutput.h"
 #include "vxgui/platform/gdi_text.h"
@@ -31,16 +33,19 @@ DWORD Packed(const TextLine& line, const TextSetup& setup) {
 
 }  // namespace
 
-DWORD GetTabbedTextExtentW(HDC dc, const char16_t* text, int count, int tabCount, const int* tabs) {
+DWORD GetTabbedTextExtentW(HDC dc, const char16_t* text, int count, int tabCount,
+                           const int* tabs) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     std::u16string_view view;
     if (!context || !TextArgument(text, count, &view)) return 0;
     const TextSetup setup(*context);
     return Packed(MakeTabbedLine(setup, view, StopsOf(setup, tabCount, tabs), 0), setup);
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 LONG TabbedTextOutW(HDC dc, int x, int y, const char16_t* text, int count, int tabCount,
-                    const int* tabs, int tabOrigin) {
+                    const int* tabs, int tabOrigin) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     std::u16string_view view;
     if (!context || !TextArgument(text, count, &view)) return 0;
@@ -50,6 +55,8 @@ LONG TabbedTextOutW(HDC dc, int x, int y, const char16_t* text, int count, int t
         MakeTabbedLine(setup, view, StopsOf(setup, tabCount, tabs), tabOrigin - at.x);
     PaintAt(*context, setup, context->Target().Bounds(), line, at);
     return static_cast<LONG>(Packed(line, setup));
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 }  // namespace vxgui::gdi

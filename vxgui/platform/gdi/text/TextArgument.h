@@ -3,10 +3,12 @@
 #include <string>
 #include <string_view>
 
+#include "vxgui/platform/limits.h"
+
 namespace vxgui::gdi {
 
-/// A text argument: `count` units, or up to the zero for -1. False for no text with a count, and
-/// for another negative count.
+/// A text argument: `count` units, or up to the zero for -1. False for no text with a count, for
+/// another negative count, and for more units than the apartment's limit.
 inline bool TextArgument(const char16_t* text, int count, std::u16string_view* view) {
     if (count < -1 || (!text && count != 0)) return false;
     if (count == -1) {
@@ -14,7 +16,7 @@ inline bool TextArgument(const char16_t* text, int count, std::u16string_view* v
     } else {
         *view = {text, static_cast<size_t>(count)};
     }
-    return true;
+    return view->size() <= ApartmentLimits().textUnits;
 }
 
 }  // namespace vxgui::gdi

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "vxgui/platform/gdi/text/MissingFonts.h"
+
 namespace vxgui::gdi {
 namespace {
 
@@ -34,11 +36,16 @@ TextEngine& TextEngine::Here() {
     return engine;
 }
 
-TextEngine::TextEngine() : fontMap_(pango_ft2_font_map_new()), attributes_(pango_attr_list_new()) {
+TextEngine::TextEngine(PangoFontMap* fontMap)
+    : fontMap_(fontMap), attributes_(pango_attr_list_new()) {
     // Kerning and ligatures would make a text's width depend on where it is cut.
     pango_attr_list_insert(attributes_, pango_attr_font_features_new("kern=0,liga=0,clig=0"));
     FT_Init_FreeType(&library_);
+}
+
+TextEngine::TextEngine() : TextEngine(pango_ft2_font_map_new()) {
     glyphs_ = std::make_unique<GlyphCache>(library_);
+    TellOfMissingFonts();
 }
 
 TextEngine::~TextEngine() {

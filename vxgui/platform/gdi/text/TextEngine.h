@@ -43,6 +43,9 @@ public:
     ShapedTextCache& Shapes() { return shapes_; }
 
 private:
+    /// As yet without a glyph cache: that may run out of memory, and the rest is then cleaned up.
+    explicit TextEngine(PangoFontMap* fontMap);
+
     /// Fonts kept beyond those that are in use.
     static constexpr size_t kKeptFonts = 64;
 

@@ -1,8 +1,11 @@
 #include "vxgui/platform/gdi/text/TextOutput.h"
+
+#include <new>
 #include "vxgui/platform/gdi/Record.h"
 #include "vxgui/platform/gdi/text/LinePainter.h"
 #include "vxgui/platform/gdi/text/TextArgument.h"
 #include "vxgui/platform/gdi_text.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -35,9 +38,9 @@ void PaintAt(DeviceContext& context, const TextSetup& setup, const RECT& clip, c
 }
 
 BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, const char16_t* text,
-                 UINT count, const int* advances) {
+                 UINT count, const int* advances) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
-    if (!context || (!text && count != 0) || count > INT32_MAX) return 0;
+    if (!context || (!text && count != 0) || count > ApartmentLimits().textUnits) return 0;
     if (rect && (options & ETO_OPAQUE) != 0) PaintBackground(*context, *rect);
     TextSetup setup(*context);
     setup.spacing.given = advances;
@@ -46,6 +49,8 @@ BOOL ExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* rect, const cha
     const RECT clip = clipped ? *rect : context->Target().Bounds();
     PaintAt(*context, setup, clip, MakeLine(setup, {text, count}), PlaceOf(*context, {x, y}));
     return 1;
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 BOOL TextOutW(HDC dc, int x, int y, const char16_t* text, int count) {

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "vxgui/platform/gdiplus/bitmap/PixelFormats.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::gdiplus {
 namespace {
@@ -56,8 +57,9 @@ std::optional<PixelMemory> MemoryOfDib(const gdi::BITMAPINFO& info, void* bits) 
     if (!IsPlain(header) || format == PixelFormatUndefined) return std::nullopt;
     const INT height = std::abs(header.biHeight);
     const size_t stride = PaddedRowBytes(format, static_cast<size_t>(header.biWidth));
-    constexpr auto kMost = static_cast<size_t>(std::numeric_limits<INT>::max());
-    if (stride > kMost / static_cast<size_t>(height)) return std::nullopt;
+    constexpr auto kCounted = static_cast<size_t>(std::numeric_limits<INT>::max());
+    const size_t most = std::min(kCounted, ApartmentLimits().imageBytes);
+    if (stride > most / static_cast<size_t>(height)) return std::nullopt;
     PixelMemory memory{
         header.biWidth, height, format, static_cast<INT>(stride), static_cast<uint8_t*>(bits),
         nullptr};

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <cstdlib>
 #include <memory>
 
+#include "vxgui/platform/gdi/PixelSource.h"
 #include "vxgui/platform/gdiplus_types.h"
 
 namespace vxgui::gdiplus {
 
 struct FreeBytes {
-    void operator()(uint8_t* bytes) const { std::free(bytes); }
+    void operator()(uint8_t* bytes) const { gdi::PixelSource::Current().GiveBack(bytes); }
 };
 using OwnedBytes = std::unique_ptr<uint8_t, FreeBytes>;
 

@@ -2,11 +2,11 @@
 
 #include "vxgui/platform/kernel/ResourceFile.h"
 #include "vxgui/platform/kernel/resources/PeFormat.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::kernel {
 namespace {
 
-constexpr uint32_t kMostEntries = 16384;
 constexpr size_t kLongestName = 260;
 
 bool IsText(uint32_t name) { return (name & pe::kHighBit) != 0; }
@@ -16,9 +16,9 @@ uint32_t OffsetOf(uint32_t value) { return value & ~pe::kHighBit; }
 
 void ResourceTree::ForEach(uint32_t directory, const std::function<bool(Entry)>& use) const {
     if (!root_.Has(directory, pe::kTableSize)) return;
-    const uint32_t count =
-        std::min<uint32_t>(kMostEntries, root_.Word(directory + pe::kNamedCount) +
-                                             root_.Word(directory + pe::kNumberCount));
+    const uint32_t count = std::min<uint32_t>(
+        ApartmentLimits().moduleResources,
+        root_.Word(directory + pe::kNamedCount) + root_.Word(directory + pe::kNumberCount));
     uint64_t at = uint64_t{directory} + pe::kTableSize;
     for (uint32_t i = 0; i < count && root_.Has(at, pe::kEntrySize); ++i, at += pe::kEntrySize) {
         if (use({root_.Dword(at), root_.Dword(at + 4)})) return;
@@ -79,7 +79,7 @@ ResourceBlock ResourceTree::Find(const String& type, const String& name) const {
 std::vector<ModuleResource> ResourceTree::All() const {
     std::vector<ModuleResource> found;
     // Directories of a hostile file may share their entries: the sum is bounded, not each.
-    uint32_t left = kMostEntries;
+    uint32_t left = ApartmentLimits().moduleResources;
     ForEach(0, [&](Entry type) {
         const uint32_t names = Below(type);
         if (names == 0) return false;

@@ -12,14 +12,14 @@ namespace vxgui::kernel {
 /// doesn't lie inside them whole, isn't there.
 ///
 /// A number is written as "#" and its digits. A name longer than 260 units is passed over, and of
-/// a directory at most 16,384 entries are read.
+/// a directory as many entries are read as the apartment's limit says.
 class ResourceTree {
 public:
     explicit ResourceTree(ByteSpan file) : sections_(file), root_(sections_.Resources()) {}
 
     /// Type and name are compared without regard to case.
     ResourceBlock Find(const String& type, const String& name) const;
-    /// At most 16,384 resources.
+    /// At most as many as the limit says.
     std::vector<ModuleResource> All() const;
 
 private:
