@@ -30,7 +30,7 @@ void Compile(const Options& options, std::ostream& out) {
     if (!skin.set) Fail(options.skin, "no theme set; only these can be compiled");
     const ByteArray file = BytesOfCompiledSkin({skin.set, NotesOf(skin)});
     if (!core7::WriteWholeFile(options.output, file.data(), file.size()))
-        Fail(options.output, "can't be written");
+        FailBySystem(options.output, "can't be written");
     out << options.output << ": " << skin.items.size() << " items, " << file.size() << " bytes\n";
 }
 

@@ -74,7 +74,7 @@ void Pack(const Options& options, std::ostream& out) {
     const Contents contents(options.folder);
     const ByteArray file = Write(contents, options);
     if (!core7::WriteWholeFile(options.output, file.data(), file.size()))
-        throw ToolError(options.output + ": error: can't be written");
+        FailBySystem(options.output, "can't be written");
     out << options.output << ": " << contents.Resources().size() << " resources, " << file.size()
         << " bytes\n";
 }

@@ -11,11 +11,6 @@
 namespace vxgui::tool {
 namespace {
 
-[[noreturn]] void FailBySystem(const std::string& path, const std::string& what) {
-    const uint32_t code = kernel::GetLastError();
-    Fail(path, what + ": " + core7::CreateSystemInformation()->ErrorText(code).Utf8());
-}
-
 Ref<cAlphaDIBSection> SurfaceInBag(const ByteArray& bytes, const std::string& path) {
     const std::optional<ByteArray> block = SurfaceBlockOf(*BagOf(bytes, path));
     if (!block) {

@@ -3,25 +3,23 @@
 #include <png.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 
 #include "tools/vxgui/ToolError.h"
+#include "vxgui/platform/core7.h"
+#include "vxgui/platform/limits.h"
 
 namespace vxgui::tool {
 namespace {
 
-constexpr int32_t kLargestSide = 32767;
-constexpr int64_t kLargestArea = int64_t{64} << 20;
-
 size_t CheckedArea(int32_t width, int32_t height) {
     const int64_t area = int64_t{width} * height;
-    if (width < 1 || height < 1 || width > kLargestSide || height > kLargestSide ||
-        area > kLargestArea) {
+    const PictureLimits& limits = ApartmentLimits().picture;
+    if (width < 1 || height < 1 || width > limits.side || height > limits.side ||
+        area > limits.area) {
         throw ToolError("error: a picture of " + std::to_string(width) + "x" +
-                        std::to_string(height) +
-                        " can't be made; sides from 1 to 32767 and an area of up to 64 megapixels "
-                        "were expected");
+                        std::to_string(height) + " can't be made; sides from 1 to " +
+                        std::to_string(limits.side) + " and an area of up to " +
+                        std::to_string(limits.area >> 20) + " megapixels were expected");
     }
     return static_cast<size_t>(area);
 }
@@ -70,11 +68,9 @@ ByteArray Sheet::Png() const {
 }
 
 void Sheet::WritePng(const std::string& path) const {
-    png_image image = PngHeader(width_, height_);
-    errno = 0;
-    if (png_image_write_to_file(&image, path.c_str(), 0, pixels_.data(), 0, nullptr)) return;
-    throw ToolError(path +
-                    ": error: can't be written: " + (errno ? std::strerror(errno) : image.message));
+    const ByteArray file = Png();
+    if (!core7::WriteWholeFile(path, file.data(), file.size()))
+        FailBySystem(path, "can't be written");
 }
 
 }  // namespace vxgui::tool

@@ -16,6 +16,9 @@ public:
     throw ToolError(path + ": error: " + text);
 }
 
+/// The same with the reason that the system gave last.
+[[noreturn]] void FailBySystem(const std::string& path, const std::string& what);
+
 /// A command line that can't be carried out.
 class UsageError : public std::runtime_error {
 public:

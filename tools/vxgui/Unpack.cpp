@@ -44,8 +44,9 @@ void Check(const std::string& module, const std::vector<kernel::ModuleResource>&
 void WriteFile(const fs::path& path, const kernel::ResourceBlock& block) {
     std::error_code failed;
     fs::create_directories(path.parent_path(), failed);
-    if (failed || !core7::WriteWholeFile(path.string(), block.data, block.size))
-        throw ToolError(path.string() + ": error: can't be written");
+    if (failed) Fail(path.string(), "can't be written: " + failed.message());
+    if (!core7::WriteWholeFile(path.string(), block.data, block.size))
+        FailBySystem(path.string(), "can't be written");
 }
 
 void Unpack(const Options& options, std::ostream& out) {

@@ -182,6 +182,8 @@ public:
     /// Writes a BMP file. Raises when it can't be created; a failed write gives false and leaves
     /// a part of it.
     virtual bool SavePicture(const String& sFileName);
+    /// Writes the same file whole or not at all: false, for whatever reason, leaves what was there.
+    bool SavePictureSafely(const String& sFileName);
     /// Whether both have the same serialized form: pixels, size, `TransparentColor`, `Flags`.
     virtual bool Equal(const Ref<cAlphaDIBSection>& Item);
 

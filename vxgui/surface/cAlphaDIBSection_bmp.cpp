@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/ErrorBox.h"
 #include "vxgui/platform/core7.h"
@@ -26,7 +27,7 @@ std::array<uint8_t, kFileHeaderSize> FileHeader(uint32_t imageSize) {
 
 }  // namespace
 
-bool cAlphaDIBSection::SaveToByteArray(ByteArray& ByteArray) {
+bool cAlphaDIBSection::SaveToByteArray(ByteArray& ByteArray) try {
     const auto imageSize = static_cast<int32_t>(header_.biSizeImage);
     if (imageSize <= 0 || !LiveBits()) return false;
     const auto size = static_cast<size_t>(imageSize);
@@ -35,10 +36,21 @@ bool cAlphaDIBSection::SaveToByteArray(ByteArray& ByteArray) {
     std::memcpy(ByteArray.data() + kFileHeaderSize, &header_, sizeof header_);
     std::memcpy(ByteArray.data() + kHeadersSize, bits_, std::min(size, MemorySize()));
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
-bool cAlphaDIBSection::SavePicture(const String& sFileName) {
+bool cAlphaDIBSection::SavePicture(const String& sFileName) try {
     return SaveToBmpFile(LiveBits(), sFileName);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.SavePicture");
+}
+
+bool cAlphaDIBSection::SavePictureSafely(const String& sFileName) try {
+    ByteArray bytes;
+    return SaveToByteArray(bytes) && core7::WriteWholeFile(sFileName, bytes.data(), bytes.size());
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool cAlphaDIBSection::SaveToBmpFile(const void* bits, const String& name) {
