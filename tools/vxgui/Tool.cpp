@@ -5,6 +5,7 @@
 
 #include "tools/vxgui/Commands.h"
 #include "vxgui/frame/Version.h"
+#include "vxgui/theme/SkinConfinement.h"
 #include "vxgui/theme/skin/SkinError.h"
 
 namespace vxgui::tool {
@@ -58,12 +59,29 @@ std::string VersionText() {
     return "vxgui " + std::to_string(version / 100) + "." + std::to_string(version % 100);
 }
 
+// Skins come from anywhere. Whoever calls the tool's parts gets his own choice back.
+class Confinement {
+public:
+    Confinement() : before_(AreSkinsConfined()) { ConfineSkins(true); }
+    ~Confinement() { ConfineSkins(before_); }
+    Confinement(const Confinement&) = delete;
+    Confinement& operator=(const Confinement&) = delete;
+
+private:
+    const bool before_;
+};
+
 }  // namespace
 
 void AddCommands(CLI::App& app, std::ostream& out, std::ostream& errors) {
     app.footer(kExamples);
     app.set_version_flag("--version", VersionText(), "Print the version and exit");
     app.require_subcommand(1);
+    app.fallthrough();
+    app.add_flag_callback(
+        "--any-folder", [] { ConfineSkins(false); },
+        "Let skins name files outside their own folders; else these count as missing. For skins "
+        "that you trust");
     AddAdjust(app, out, errors);
     AddCheck(app, out);
     AddCompile(app, out);
@@ -81,6 +99,7 @@ void AddCommands(CLI::App& app, std::ostream& out, std::ostream& errors) {
 
 int RunTool(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
     CLI::App app("Paints and checks skins, and converts their pictures.", "vxgui");
+    const Confinement confinement;
     AddCommands(app, out, errors);
     return Parse(app, std::move(arguments), out, errors);
 }

@@ -5,6 +5,7 @@
 #include "vxgui/base/NumberText.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/frame/Services.h"
+#include "vxgui/theme/SkinConfinement.h"
 
 namespace vxgui {
 namespace {
@@ -55,7 +56,7 @@ bool SkinDef::HaveWallpaper() const {
     if (!path.empty()) path = paths.JoinPath({skinPath_, path});
     std::u16string units = path.units();
     std::replace(units.begin(), units.end(), u'\\', u'/');
-    return paths.FileExists(units);
+    return paths.FileExists(units) && MaySkinRead(skinPath_, units);
 }
 
 }  // namespace vxgui

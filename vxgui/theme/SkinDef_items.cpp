@@ -1,4 +1,5 @@
 #include "vxgui/base/Attempt.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/SkinParts.h"
 #include "vxgui/theme/StyleModule.h"
@@ -19,7 +20,7 @@ void SkinDef::AddItem(const String& name, const Ref<ThemeItem>& item) {
     items_->AddItem(item, name);
 }
 
-Ref<ThemeItem> SkinDef::Item(const String& ItemName) {
+Ref<ThemeItem> SkinDef::Item(const String& ItemName) try {
     const KeepAlive keep(this);
     Ref<ThemeItem> item = items_ ? items_->Item(ItemName) : nullptr;
     if (item) return item;
@@ -32,11 +33,15 @@ Ref<ThemeItem> SkinDef::Item(const String& ItemName) {
     }
     if (item) AddItem(ItemName, item);
     return item;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("SkinDef.Item");
 }
 
-void SkinDef::Item(const String& ItemName, const Ref<ThemeItem>& value) {
+void SkinDef::Item(const String& ItemName, const Ref<ThemeItem>& value) try {
     const KeepAlive keep(this);
     AddItem(ItemName, value);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("SkinDef.Item");
 }
 
 void SkinDef::XPTaskbarItemNames(std::vector<String>& Names, int32_t& Last) {

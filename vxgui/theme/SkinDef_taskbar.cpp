@@ -1,4 +1,6 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/frame/Services.h"
+#include "vxgui/theme/SkinConfinement.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/StyleModule.h"
 
@@ -11,13 +13,17 @@ Ref<core7::DefineFile> Open(const String& path) {
     return file;
 }
 
+bool IsThere(const String& skinPath, const String& file) {
+    return gServices.pathService().FileExists(file) && MaySkinRead(skinPath, file);
+}
+
 // A taskbar skin without sections, or with one picture missing, isn't used at all.
 bool IsWhole(core7::DefineFile& taskbar, const String& skinPath) {
     core7::PathService& paths = gServices.pathService();
     const std::vector<String> sections = taskbar.SectionNames();
     for (const String& section : sections) {
         const String image = taskbar.GetString(section, "Image", "");
-        if (!image.empty() && !paths.FileExists(paths.JoinPath({skinPath, image}))) return false;
+        if (!image.empty() && !IsThere(skinPath, paths.JoinPath({skinPath, image}))) return false;
     }
     return !sections.empty();
 }
@@ -32,7 +38,7 @@ SkinDef::Files SkinDef::OpenSkinFolder() {
     const String name = uis->GetString("XPTaskbar", "File", "");
     taskbarFile_ = name.empty() ? files.BuildPath(files.GetParentFolderName(defFile_), "XPStuff.xp")
                                 : paths.JoinPath({skinPath_, name});
-    if (!paths.FileExists(taskbarFile_)) return {};
+    if (!IsThere(skinPath_, taskbarFile_)) return {};
     const Ref<core7::DefineFile> taskbar = Open(taskbarFile_);
     return IsWhole(*taskbar, skinPath_) ? Files{uis, taskbar} : Files{};
 }
@@ -50,7 +56,7 @@ SkinDef::Files SkinDef::OpenStyleModule() {
             module.DefineFile(reference.style + "TaskBar.INI")};
 }
 
-void SkinDef::InitializeXPTaskbar() {
+void SkinDef::InitializeXPTaskbar() try {
     const KeepAlive keep(this);
     styleModule_ = {};
     uis_ = taskbar_ = nullptr;
@@ -67,6 +73,8 @@ void SkinDef::InitializeXPTaskbar() {
     ReadSkinFonts();
     items_ = New<ThemeItems>();
     LoadSkinItems();
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("SkinDef.InitializeXPTaskbar");
 }
 
 }  // namespace vxgui

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/theme/NineSlice.h"
 #include "vxgui/theme/RectLayout.h"
@@ -107,7 +108,7 @@ void ThemeItem::Draw(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t h
 }
 
 void ThemeItem::DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,
-                               int32_t Frame, int32_t GlyphFrame) {
+                               int32_t Frame, int32_t GlyphFrame) try {
     const KeepAlive keep(this);
     if (image_) {
         const int32_t frame = Frame == -1 ? currentFrame_ : Frame;
@@ -118,6 +119,8 @@ void ThemeItem::DrawBackground(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD,
         const int32_t count = GlyphFrames();
         if (frame >= 0 && frame < count) PaintGlyph(hDC, xD, yD, wD, hD, frame);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.DrawBackground");
 }
 
 void ThemeItem::PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int32_t hD,

@@ -1,18 +1,21 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
 
-Ref<ThemeItem> ThemeItem::Clone() {
+Ref<ThemeItem> ThemeItem::Clone() try {
     const KeepAlive keep(this);
     const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
     WriteProperties(bag);
     Ref<ThemeItem> copy = New<ThemeItem>();
     copy->ReadProperties(bag);
     return copy;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.Clone");
 }
 
-Variant ThemeItem::CopyTo(const Ref<ThemeItem>& Value, uint32_t Flags) {
+Variant ThemeItem::CopyTo(const Ref<ThemeItem>& Value, uint32_t Flags) try {
     const KeepAlive keep(this);
     ThemeItem& to = Require(Value, "ThemeItem.CopyTo");
     const KeepAlive keepTarget(&to);
@@ -29,6 +32,8 @@ Variant ThemeItem::CopyTo(const Ref<ThemeItem>& Value, uint32_t Flags) {
     if (styles == COPYTO_TextStylesLet) to.LetTextStyles(TextStyles());
     if (styles == COPYTO_TextStylesSet) to.TextStyles(TextStyles());
     return {};
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.CopyTo");
 }
 
 // Through the setters and their rules: an order of the item's own comes without its table.

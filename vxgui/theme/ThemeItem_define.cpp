@@ -1,10 +1,12 @@
 #include <array>
 
 #include "vxgui/base/NumberText.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/frame/Services.h"
 #include "vxgui/text/ColorText.h"
 #include "vxgui/text/DefineSection.h"
+#include "vxgui/theme/SkinConfinement.h"
 #include "vxgui/theme/ThemeItem.h"
 #include "vxgui/theme/ThemeSet.h"
 
@@ -47,6 +49,7 @@ Ref<cAlphaDIBSection> Load(const String& basePath, const String& name, int32_t b
     Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
     surface->TransparentColor(background);
     const String path = gServices.pathService().TheFileSystem().BuildPath(basePath, name);
+    if (!MaySkinRead(basePath, path)) return nullptr;
     return surface->CreateFromPictureFile(path) ? surface : nullptr;
 }
 
@@ -120,7 +123,7 @@ void ThemeItem::ReadGlyph(const DefineSection& read, const String& basePath) {
 }
 
 void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const String& Section,
-                                const Ref<ThemeSet>& Set, const String& BasePath) {
+                                const Ref<ThemeSet>& Set, const String& BasePath) try {
     const DefineSection read(DefineFile, Section, "ThemeItem");
     ReadImage(read, BasePath);
     ReadGlyph(read, BasePath);
@@ -138,6 +141,8 @@ void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const 
     if (glyph_)
         LoadStrips(read, "Glyph", "GlyphImage", BasePath,
                    [&](auto... at) { AddGlyphStrip(at...); });
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.FromThemeDefine");
 }
 
 }  // namespace vxgui

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/gdip/GpGraphics.h"
@@ -66,7 +67,7 @@ Span Between(int32_t start, int32_t end) { return {start, WrapSub(end, start)}; 
 }  // namespace
 
 int32_t ThemeItem::DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t, int32_t, int32_t Left,
-                            int32_t Top, int32_t& Right, int32_t& Bottom) const {
+                            int32_t Top, int32_t& Right, int32_t& Bottom) const try {
     const KeepAlive keep(this);
     ClassifiedIcon icon;
     if (!Classify(hDC, Icon.get(), icon)) return -1;
@@ -89,6 +90,8 @@ int32_t ThemeItem::DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t, int
         PaintIconImage(hDC, *icon.image, x, y);
     }
     return 0;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.DrawIcon");
 }
 
 int32_t ThemeItem::DrawIcon(gdi::HDC hDC, const Ref<Object>& Icon, uint32_t Flags, int32_t State,
@@ -144,7 +147,7 @@ private:
 
 }  // namespace
 
-Ref<ThemeItem> ThemeItem::CreateMenuArrow() const {
+Ref<ThemeItem> ThemeItem::CreateMenuArrow() const try {
     const Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
     surface->Create(12, 8);
     const gdi::HDC dc = surface->hDC();
@@ -157,6 +160,8 @@ Ref<ThemeItem> ThemeItem::CreateMenuArrow() const {
     Ref<ThemeItem> arrow = New<ThemeItem>();
     arrow->SetImage(surface, 3, 0, Normal, 0, 1);
     return scale_ == 1 ? arrow : arrow->Scaled(scale_);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.CreateMenuArrow");
 }
 
 }  // namespace vxgui

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "vxgui/base/Attempt.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/theme/ThemeItem.h"
@@ -73,7 +74,7 @@ void ThemeItem::ReadPropertiesRECT(const Ref<ole::PropertyBag>& PropBag, gdi::RE
     rc = {margin.left, margin.top, margin.right, margin.bottom};
 }
 
-void ThemeItem::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
+void ThemeItem::ReadProperties(const Ref<ole::PropertyBag>& PropBag) try {
     const KeepAlive keep(this);
     const Variant version = Require(PropBag, kReading).ReadProperty("Version", 1);
     const bool first = version == Variant(1);
@@ -81,14 +82,18 @@ void ThemeItem::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
     ReadProperties_v1(PropBag);
     // The first version had one direction for both strips.
     if (first && FrameVert()) GlyphFrameVert(-1);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.ReadProperties");
 }
 
-void ThemeItem::ReadProperties_v1(const Ref<ole::PropertyBag>& PropBag) {
+void ThemeItem::ReadProperties_v1(const Ref<ole::PropertyBag>& PropBag) try {
     const KeepAlive keep(this);
     const ole::PropertyBag& bag = Require(PropBag, kReading);
     ReadNumbers(bag);
     ReadStrips(bag);
     ReadStates(bag);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.ReadProperties");
 }
 
 // Past the setters: what they would refuse is taken as it stands, and nothing is premultiplied.

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/text/ScratchText.h"
@@ -30,19 +31,20 @@ private:
 
 int32_t ThemeItem::GetTextWidthHeight(gdi::HDC hDC, const String& Text, int32_t& pWidth,
                                       int32_t& pHeight, int32_t MaxWidth, int32_t MaxHeight,
-                                      uint32_t Flags, int32_t pState) const {
+                                      uint32_t Flags, int32_t pState) const try {
     pWidth = pHeight = 0;
     gdi::RECT rect{0, 0, MaxWidth ? MaxWidth : kNoLimit, MaxHeight ? MaxHeight : kNoLimit};
     const ContextOrScreen context(hDC);
     const Ref<LFont> font = GetStateFont(pState);
     const Ref<TextStyle> style = GetStateTextStyle(pState);
-    const gdi::HGDIOBJ old = gdi::SelectObject(context.get(), font->hFont());
+    const ScopedFont selected(context.get(), font->hFont());
     DrawTextAnsi(context.get(), Text, -1, rect, Flags | DT_CALCRECT);
-    gdi::SelectObject(context.get(), old);
     // The shadow counts in every draw style, those without one too.
     pWidth = WrapAdd(rect.right, style->ShadowX);
     pHeight = WrapAdd(rect.bottom, style->ShadowY);
     return 0;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.GetTextWidthHeight");
 }
 
 int32_t ThemeItem::TextWidth(gdi::HDC hDC, const String& Text, uint32_t Flags, int32_t,
@@ -60,7 +62,7 @@ int32_t ThemeItem::TextHeight(gdi::HDC hDC, const String& Text, uint32_t Flags, 
 }
 
 void ThemeItem::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, int32_t State,
-                         int32_t Left, int32_t Top, int32_t& Right, int32_t& Bottom) const {
+                         int32_t Left, int32_t Top, int32_t& Right, int32_t& Bottom) const try {
     const KeepAlive keep(this);
     if (Right == -1) Right = WrapAdd(Left, ImageWidth());
     if (Bottom == -1) Bottom = WrapAdd(Top, ImageHeight());
@@ -70,6 +72,8 @@ void ThemeItem::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, int32
     Ref<LFont> font = GetStateFont(State);
     GetStateTextStyle(State)->DrawText(hDC, Text, Flags, font, WrapAdd(Left, contentMargin_.left),
                                        WrapAdd(Top, contentMargin_.top), Right, Bottom);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.DrawText");
 }
 
 void ThemeItem::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, int32_t State,

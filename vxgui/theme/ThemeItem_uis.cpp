@@ -2,6 +2,7 @@
 #include "vxgui/frame/Report.h"
 #include "vxgui/frame/Services.h"
 #include "vxgui/text/DefineSection.h"
+#include "vxgui/theme/SkinConfinement.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
@@ -42,7 +43,7 @@ Ref<cAlphaDIBSection> LoadFile(const String& path) {
 Ref<cAlphaDIBSection> Load(const UisSource& source, const String& name) {
     if (const auto* module = std::get_if<kernel::HMODULE>(&source))
         return LoadResource(*module, name);
-    return LoadFile(name);
+    return MaySkinRead(std::get<String>(source), name) ? LoadFile(name) : nullptr;
 }
 
 bool IsPicture(const Ref<cAlphaDIBSection>& surface) { return surface && surface->hDIB(); }

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/theme/ThemeItem.h"
 
@@ -49,7 +50,7 @@ void ThemeItem::WritePropertiesRECT(const Ref<ole::PropertyBag>& PropBag, const 
 
 void ThemeItem::WriteProperties(const Ref<ole::PropertyBag>& PropBag,
                                 const Ref<cAlphaDIBSection>& DefImage, const Ref<LFont>& DefFont,
-                                const Ref<TextStyle>& DefTextStyle, int32_t Flags) {
+                                const Ref<TextStyle>& DefTextStyle, int32_t Flags) try {
     const KeepAlive keep(this);
     ole::PropertyBag& bag = Require(PropBag, kWriting);
     if (image_ && !image_->Equal(DefImage)) WriteInner(bag, "ImageBag", image_, Flags);
@@ -60,6 +61,8 @@ void ThemeItem::WriteProperties(const Ref<ole::PropertyBag>& PropBag,
     MinimizeFonts();
     MinimizeTextStyles();
     WriteStates(bag, DefFont, DefTextStyle);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("ThemeItem.WriteProperties");
 }
 
 void ThemeItem::WriteNumbers(ole::PropertyBag& bag) const {

@@ -1,5 +1,6 @@
 #include "vxgui/theme/ThemeSetFile.h"
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/theme/CompiledSkin.h"
 
 namespace vxgui {
@@ -23,7 +24,7 @@ core7::DefinePosition LastPlace(const core7::DefineFile& file, const ThemeSet& s
 
 }  // namespace
 
-Ref<ThemeSet> LoadThemeSetFile(const String& path) {
+Ref<ThemeSet> LoadThemeSetFile(const String& path) try {
     if (IsCompiledSkinFile(path)) return LoadCompiledSkin(path).set;
     const Ref<core7::DefineFile> file = core7::CreateDefineFile();
     const bool opened = file->OpenFile(path);
@@ -38,6 +39,8 @@ Ref<ThemeSet> LoadThemeSetFile(const String& path) {
         throw Error(error.Number(), PlaceOf(path, at.line, at.column), error.Description());
     }
     return set;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LoadThemeSetFile");
 }
 
 }  // namespace vxgui

@@ -22,9 +22,9 @@ Variant ListOf(const String& list) {
 
 const ItemDialect& ThemeSetDialect() {
     static const ItemDialect dialect{
-        {"strip", "Image", "Frames", "FrameVert", "FrameOrder", "ImageScales"},
+        {"strip", "Image", "Frames", "FrameVert", "FrameOrder", "ImageScales", false},
         {"glyph's strip", "GlyphImage", "GlyphFrames", "GlyphFrameVert", "GlyphFrameOrder",
-         "GlyphScales"},
+         "GlyphScales", false},
         {"image margins", {"ImageMargin", "ImageMargin", "ImageMargin", "ImageMargin"}},
         {"content margins", {"ContentMargin", "ContentMargin", "ContentMargin", "ContentMargin"}},
         true,
@@ -36,8 +36,8 @@ const ItemDialect& ThemeSetDialect() {
 
 const ItemDialect& UisDialect() {
     static const ItemDialect dialect{
-        {"strip", "Image", "FrameCount", nullptr, nullptr, "ImageScales"},
-        {"glyph's strip", "GlyphImage", "GlyphFrames", nullptr, nullptr, "GlyphScales"},
+        {"strip", "Image", "FrameCount", nullptr, nullptr, "ImageScales", true},
+        {"glyph's strip", "GlyphImage", "GlyphFrames", nullptr, nullptr, "GlyphScales", true},
         {"image margins", {"LeftWidth", "TopHeight", "RightWidth", "BottomHeight"}},
         {"content margins", {"ContentLeft", "ContentTop", "ContentRight", "ContentBottom"}},
         false,

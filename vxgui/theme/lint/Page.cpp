@@ -51,6 +51,12 @@ void Page::WarnAt(const String& section, const String& text) {
 void Page::WarnAt(const String& section, const String& key, const String& text) {
     Add(Severity::Warning, file_->PositionOf(section, key), text);
 }
+void Page::WarnOfPlace(const String& section, const String& key, const String& name) {
+    WarnAt(section, key,
+           Quoted(name) +
+               " lies outside the folder of the skin; where skins are kept to their folders, as "
+               "this tool keeps them, it counts as missing");
+}
 void Page::FailAt(const String& section, const String& text) {
     Add(Severity::Error, file_->PositionOf(section), text);
 }

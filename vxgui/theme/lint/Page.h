@@ -33,6 +33,8 @@ public:
 
     void WarnAt(const String& section, const String& text);
     void WarnAt(const String& section, const String& key, const String& text);
+    /// The key names a file outside the skin's folder.
+    void WarnOfPlace(const String& section, const String& key, const String& name);
     void FailAt(const String& section, const String& text);
     void FailAt(const String& section, const String& key, const String& text);
     void Fail(const String& text);

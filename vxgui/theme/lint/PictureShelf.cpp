@@ -20,11 +20,12 @@ bool IsPictureName(const fs::path& path) {
 
 fs::path Normal(const fs::path& path) { return path.lexically_normal(); }
 
-PictureFacts Look(const String& path) {
+PictureFacts Look(const String& folder, const String& path) {
     PictureFacts facts;
     facts.exists = core7::ThePathService().FileExists(path);
+    facts.outside = !core7::IsWithin(path, folder);
     facts.file = core7::NativePath(path);
-    if (!facts.exists) return facts;
+    if (!facts.exists || facts.outside) return facts;
     const Ref<cAlphaDIBSection> picture = New<cAlphaDIBSection>();
     if (!picture->CreateFromPictureFile(path)) return facts;
     facts.width = picture->Width();
@@ -49,10 +50,13 @@ void AddUnused(const fs::path& folder, const std::set<std::string>& used,
 
 }  // namespace
 
-const PictureFacts& PictureShelf::Use(const String& folder, const String& name) {
-    const String path = core7::ThePathService().TheFileSystem().BuildPath(folder, name);
-    auto known = seen_.find(path);
-    if (known == seen_.end()) known = seen_.emplace(path, Look(path)).first;
+const PictureFacts& PictureShelf::Use(const String& folder, const String& name, bool absolute) {
+    core7::PathService& paths = core7::ThePathService();
+    const String path =
+        absolute ? paths.JoinPath({folder, name}) : paths.TheFileSystem().BuildPath(folder, name);
+    auto known = seen_.find({folder, path});
+    if (known == seen_.end())
+        known = seen_.emplace(std::pair(folder, path), Look(folder, path)).first;
     used_.insert(Normal(known->second.file).string());
     return known->second;
 }

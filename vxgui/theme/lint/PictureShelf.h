@@ -12,7 +12,8 @@ namespace vxgui::lint {
 /// What a check needs to know of a picture.
 struct PictureFacts {
     bool exists = false;
-    int32_t width = 0;  ///< 0 for what can't be read
+    bool outside = false;  ///< of the skin's folder; such a file isn't looked into
+    int32_t width = 0;     ///< 0 for what can't be read
     int32_t height = 0;
     std::string file;  ///< its path as the operating system has it
 };
@@ -20,8 +21,8 @@ struct PictureFacts {
 /// Pictures that were looked at, each decoded once, and which of them a skin uses.
 class VXGUI_LOCAL PictureShelf {
 public:
-    /// Looks at a picture that a skin names.
-    const PictureFacts& Use(const String& folder, const String& name);
+    /// Looks at a picture that a skin names; an absolute path may stand for itself.
+    const PictureFacts& Use(const String& folder, const String& name, bool absolute);
     /// Counts a picture as used without a look at it.
     void Mark(const String& folder, const String& name);
     /// Forgets what is used; what was seen of the pictures stays.
@@ -30,7 +31,7 @@ public:
     std::vector<std::string> UnusedIn(const String& folder) const;
 
 private:
-    std::map<String, PictureFacts> seen_;
+    std::map<std::pair<String, String>, PictureFacts> seen_;  // by folder and path
     std::set<std::string> used_;
 };
 

@@ -40,7 +40,7 @@ void StripLint::Look(PictureShelf& shelf, const String& folder, const String& fa
     name_ = name;
     vertical_ = keys_.vertical && page_.Integer(section_, keys_.vertical) != 0;
     if (!named_) return;
-    facts_ = shelf.Use(folder, name);
+    facts_ = shelf.Use(folder, name, keys_.absolute);
     readable_ = facts_.width > 0 && facts_.height > 0;
     if (given.empty()) {
         if (!facts_.exists)
@@ -50,6 +50,7 @@ void StripLint::Look(PictureShelf& shelf, const String& folder, const String& fa
     }
     if (!facts_.exists)
         return page_.FailAt(section_, keys_.image, Quoted(name) + " is not there" + missing);
+    if (facts_.outside) return page_.WarnOfPlace(section_, keys_.image, name);
     if (!readable_)
         return page_.FailAt(section_, keys_.image,
                             Quoted(name) +

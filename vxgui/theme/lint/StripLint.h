@@ -14,6 +14,7 @@ struct StripKeys {
     const char* vertical;
     const char* order;
     const char* scales;
+    bool absolute;  ///< whether an absolute path of a picture stands for itself
 };
 
 /// A section's picture and its frames under check.

@@ -119,8 +119,11 @@ void CheckTaskbar(Page& page, const String& folder, PictureShelf& shelf, UisPool
 
 void CheckWallpaper(Page& page, PictureShelf& shelf) {
     const String name = page.Text("Personality", "Wallpaper");
-    if (!name.empty() && !shelf.Use(page.Folder(), name).exists)
-        page.FailAt("Personality", "Wallpaper", Quoted(name) + " is not there");
+    if (name.empty()) return;
+    const PictureFacts& facts = shelf.Use(page.Folder(), name, true);
+    if (!facts.exists)
+        return page.FailAt("Personality", "Wallpaper", Quoted(name) + " is not there");
+    if (facts.outside) page.WarnOfPlace("Personality", "Wallpaper", name);
 }
 
 // Parts that name no picture have one all the same, if it is there.
@@ -132,9 +135,12 @@ void UseDefaultPictures(const String& folder, PictureShelf& shelf) {
 // The taskbar's file as the reader looks for it; empty, and told, when it isn't there.
 String TaskbarPath(Page& page) {
     const String name = page.Text("XPTaskbar", "File");
-    const String path = core7::ThePathService().TheFileSystem().BuildPath(
-        page.Folder(), name.empty() ? String("XPStuff.xp") : name);
-    if (core7::ThePathService().FileExists(path)) return path;
+    const String path = core7::ThePathService().JoinPath(
+        {page.Folder(), name.empty() ? String("XPStuff.xp") : name});
+    if (core7::ThePathService().FileExists(path)) {
+        if (!core7::IsWithin(path, page.Folder())) page.WarnOfPlace("XPTaskbar", "File", name);
+        return path;
+    }
     const String text = Quoted(name.empty() ? "XPStuff.xp" : name) +
                         " is not there; without a taskbar file the skin isn't used at all";
     name.empty() ? page.FailAt("XPTaskbar", text) : page.FailAt("XPTaskbar", "File", text);

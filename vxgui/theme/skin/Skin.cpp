@@ -1,5 +1,6 @@
 #include "vxgui/theme/skin/Skin.h"
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/theme/CompiledSkin.h"
 #include "vxgui/theme/StyleModule.h"
 #include "vxgui/theme/skin/SkinDialects.h"
@@ -29,10 +30,8 @@ void Open(core7::DefineFile& file, const String& path) {
     report.Throw();
 }
 
-}  // namespace
-
 // Its notes stand in for the define file.
-Skin SkinOfCompiled(const ByteArray& bytes, const String& path) try {
+Skin ReadCompiled(const ByteArray& bytes, const String& path) try {
     const CompiledSkin compiled = CompiledSkinFrom(bytes);
     Skin skin{path, {}, core7::CreateDefineFile(), compiled.set, nullptr};
     skin.file->LoadText(compiled.notes);
@@ -47,7 +46,13 @@ Skin SkinOfCompiled(const ByteArray& bytes, const String& path) try {
     RefuseSkin(path, error.Description());
 }
 
-Skin LoadSkin(const String& path) {
+}  // namespace
+
+Skin SkinOfCompiled(const ByteArray& bytes, const String& path) {
+    return WithinMemory("SkinOfCompiled", [&] { return ReadCompiled(bytes, path); });
+}
+
+Skin LoadSkin(const String& path) try {
     ByteArray bytes;
     if (core7::ReadWholeFile(path, &bytes) && IsCompiledSkin(bytes))
         return SkinOfCompiled(bytes, path);
@@ -66,6 +71,8 @@ Skin LoadSkin(const String& path) {
         RefuseDialect(path);
     }
     return skin;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LoadSkin");
 }
 
 Ref<ThemeItem> FindItem(const Skin& skin, const String& name) {

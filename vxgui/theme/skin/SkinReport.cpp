@@ -1,5 +1,7 @@
 #include "vxgui/theme/skin/SkinReport.h"
 
+#include "vxgui/theme/SkinConfinement.h"
+
 namespace vxgui {
 
 void SkinReport::Add(const String& path, core7::DefinePosition at, const String& text) {
@@ -18,12 +20,13 @@ void CheckPicture(const String& path, core7::DefinePosition at, const String& fo
                   const String& name, bool loaded, SkinReport& report) {
     if (name.empty() || loaded) return;
     core7::PathService& paths = core7::ThePathService();
-    const bool exists = paths.FileExists(paths.JoinPath({folder, name}));
-    report.Add(
-        path, at,
-        "image \"" + name +
-            (exists ? "\" is no picture that can be read: BMP, PNG, JPEG, GIF or TGA was expected"
-                    : "\" is not there: a file in the folder of the skin was expected"));
+    const String file = paths.JoinPath({folder, name});
+    const char* const why =
+        !paths.FileExists(file) ? "is not there: a file in the folder of the skin was expected"
+        : !MaySkinRead(folder, file)
+            ? "lies outside the folder of the skin, which is not read"
+            : "is no picture that can be read: BMP, PNG, JPEG, GIF or TGA was expected";
+    report.Add(path, at, "image \"" + name + "\" " + why);
 }
 
 }  // namespace vxgui

@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include "vxgui/theme/SkinConfinement.h"
 #include "vxgui/theme/StyleModule.h"
 #include "vxgui/theme/skin/SkinDialects.h"
 #include "vxgui/theme/skin/SkinReport.h"
@@ -19,7 +20,11 @@ bool Has(core7::DefineFile& file, const String& section) {
     const String path = skin.desktop->TaskbarFileName();
     file->OpenFile(path);
     report.AddProblems(*file);
-    if (!core7::ThePathService().FileExists(path) || file->SectionNames().empty()) {
+    if (!MaySkinRead(folder, path)) {
+        report.Add(skin.path, skin.file->PositionOf("XPTaskbar", "File"),
+                   "the taskbar's file \"" + path +
+                       "\" lies outside the folder of the skin, which is not read");
+    } else if (!core7::ThePathService().FileExists(path) || file->SectionNames().empty()) {
         report.Add(skin.path, skin.file->PositionOf("XPTaskbar", "File"),
                    "the taskbar's file \"" + path +
                        "\" is not there or has no sections; a skin is used whole or not at all");
@@ -28,7 +33,8 @@ bool Has(core7::DefineFile& file, const String& section) {
         const String name = file->GetString(section, "Image", "");
         const String image = core7::ThePathService().JoinPath({folder, name});
         CheckPicture(path, file->PositionOf(section, "Image"), folder, name,
-                     core7::ThePathService().FileExists(image), report);
+                     core7::ThePathService().FileExists(image) && MaySkinRead(folder, image),
+                     report);
     }
     report.Throw();
 }
