@@ -3,6 +3,8 @@
 #include <pango/pangofc-fontmap.h>
 #include <pango/pangoft2.h>
 
+#include "vxgui/platform/gdi/text/MissingFonts.h"
+
 namespace vxgui::gdiplus {
 
 FontEngine& FontEngine::Here() {
@@ -16,7 +18,10 @@ void FontEngine::MapEnd::operator()(PangoFontMap* map) const {
     g_object_unref(map);
 }
 
-FontEngine::FontEngine() { FT_Init_FreeType(&library_); }
+FontEngine::FontEngine() {
+    FT_Init_FreeType(&library_);
+    gdi::TellOfMissingFonts();
+}
 
 FontEngine::~FontEngine() {
     // The typefaces hold faces, which end before their library.
