@@ -42,14 +42,25 @@ public:
             body();
             return true;
         } catch (const Error& error) {
-            (*this)(procedureName, error);
+            Tell(procedureName, [&] { return Failure(error); });
         } catch (const std::bad_alloc&) {
-            (*this)(procedureName, Error(ErrorNumber::OutOfMemory, moduleName_, "Out of memory"));
+            Tell(procedureName, [&] {
+                return Failure(Error(ErrorNumber::OutOfMemory, moduleName_, "Out of memory"));
+            });
         }
         return false;
     }
 
 private:
+    // Nothing is shown where there is no memory even for the report.
+    template <class Make>
+    void Tell(const char* procedureName, Make make) const {
+        try {
+            (*this)(procedureName, make());
+        } catch (const std::bad_alloc&) {
+        }
+    }
+
     const char* moduleName_;
 };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/colour/IColorAdjust.h"
 #include "vxgui/platform/forms.h"
 #include "vxgui/surface/HlsAdjustment.h"
@@ -20,11 +21,13 @@ struct cAlphaDIBSection::Snapshot {
     }
 };
 
-void cAlphaDIBSection::BeginAdjustColor() {
+void cAlphaDIBSection::BeginAdjustColor() try {
     const std::span<const ARGB> pixels = Pixels();
     if (pixels.empty()) return;
     snapshot_ =
         std::make_shared<Snapshot>(Snapshot{Width(), Height(), {pixels.begin(), pixels.end()}});
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.BeginAdjustColor");
 }
 
 void cAlphaDIBSection::CommitAdjustColor() { snapshot_ = nullptr; }
@@ -46,7 +49,7 @@ void cAlphaDIBSection::RaisePreview(int32_t xEnd, int32_t y, bool& cancel) const
 }
 
 void cAlphaDIBSection::AdjustColor(const Ref<IColorAdjust>& ColorAdjust, int32_t xStart,
-                                   int32_t yStart, int32_t xEnd, int32_t yEnd) {
+                                   int32_t yStart, int32_t xEnd, int32_t yEnd) try {
     const KeepAlive alive(this);
     const auto snapshot = snapshot_;
     if (!snapshot || GetARGBArray().Rows() == 0) return;
@@ -68,6 +71,8 @@ void cAlphaDIBSection::AdjustColor(const Ref<IColorAdjust>& ColorAdjust, int32_t
     }
     bool ignored = false;
     RaisePreview(area.right, area.lowRow + 1, ignored);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.AdjustColor");
 }
 
 void cAlphaDIBSection::AdjustHLS(float hue, float Luminance, float Saturation, bool Colourize,

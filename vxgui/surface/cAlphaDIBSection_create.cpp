@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
@@ -16,7 +17,7 @@ bool cAlphaDIBSection::CreateDIB(gdi::HDC lHDC, int32_t lWidth, int32_t lHeight,
     return hDIB != nullptr;
 }
 
-bool cAlphaDIBSection::Create(int32_t Width, int32_t Height) {
+bool cAlphaDIBSection::Create(int32_t Width, int32_t Height) try {
     ClearUp();
     hDC_ = gdi::CreateCompatibleDC(compatibleDC_);
     if (!hDC_) return false;
@@ -27,12 +28,16 @@ bool cAlphaDIBSection::Create(int32_t Width, int32_t Height) {
     }
     oldBitmap_ = gdi::SelectObject(hDC_, hDIB_);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool cAlphaDIBSection::CreateWithCompatibleDC(int32_t Width, int32_t Height,
-                                              gdi::HDC CompatibleDC) {
+                                              gdi::HDC CompatibleDC) try {
     compatibleDC_ = CompatibleDC;
     return Create(Width, Height);
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 void cAlphaDIBSection::ClearUp() {

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/frame/PictureHelpers.h"
 #include "vxgui/image/modPicture.h"
 #include "vxgui/image/modTGA.h"
@@ -35,29 +36,33 @@ void FillWith(gdi::HDC dc, int32_t width, int32_t height, int32_t color) {
 
 }  // namespace
 
-bool cAlphaDIBSection::CreateFromPictureFile(const String& Filename) {
+bool cAlphaDIBSection::CreateFromPictureFile(const String& Filename) try {
     const KeepAlive alive(this);
     auto picture = LoadByPlatform(Filename);
     if (!picture) {
         picture = Ignoring([&] { return LoadByOwnLoader(Filename, TransparentColor()); });
     }
     return picture && Ignoring([&] { return CreateFromPicture(picture); });
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool cAlphaDIBSection::CreateFromByteArray(const ByteArray& b, bool TGAFormat) {
     return !b.empty() && CreateFromPtr(b.data(), static_cast<int32_t>(b.size()), TGAFormat);
 }
 
-bool cAlphaDIBSection::CreateFromPtr(const void* lpData, int32_t nSize, bool TGAFormat) {
+bool cAlphaDIBSection::CreateFromPtr(const void* lpData, int32_t nSize, bool TGAFormat) try {
     if (TGAFormat || TgaHasFooter(lpData, nSize)) return CreateFromTGAPtr(lpData, nSize);
     const gdi::HBITMAP decoded = GdipMemoryToHBitmap(lpData, nSize, TransparentColor());
     if (!decoded) return false;
     const bool created = CreateFromHBitmap(decoded);
     gdi::DeleteObject(decoded);
     return created;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
-bool cAlphaDIBSection::CreateFromTGAPtr(const void* lpData, int32_t nSize) {
+bool cAlphaDIBSection::CreateFromTGAPtr(const void* lpData, int32_t nSize) try {
     TgaRecord record;
     if (TgaParse(record, lpData, nSize) != tga::kOk ||
         !Create(record.header.width, record.header.height) ||
@@ -66,9 +71,11 @@ bool cAlphaDIBSection::CreateFromTGAPtr(const void* lpData, int32_t nSize) {
     }
     if (record.attributesType == tga::kPremultiplied) flags_ |= kPremultiplied;
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
-bool cAlphaDIBSection::CreateFromPicture(const Ref<ole::Picture>& picThis) {
+bool cAlphaDIBSection::CreateFromPicture(const Ref<ole::Picture>& picThis) try {
     const KeepAlive alive(this);
     const Ref<ole::Picture> picture = picThis;
     if (!picture || !picture->Handle()) return false;
@@ -83,6 +90,8 @@ bool cAlphaDIBSection::CreateFromPicture(const Ref<ole::Picture>& picThis) {
     if (picture->Type() != ole::kPictureBitmap) return rendered;
     // A bitmap comes at its own size in pixels, whatever its extents are.
     return CreateFromHBitmap(static_cast<gdi::HBITMAP>(picture->Handle()));
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 }  // namespace vxgui

@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/surface/ScratchContext.h"
@@ -16,7 +17,7 @@ void cAlphaDIBSection::LoadPictureBlt(gdi::HDC lHDC, int32_t lSrcLeft, int32_t l
                 lSrcHeight < 0 ? Height() : lSrcHeight, lHDC, lSrcLeft, lSrcTop, eRop);
 }
 
-bool cAlphaDIBSection::CreateFromHBitmap(gdi::HBITMAP hBMP) {
+bool cAlphaDIBSection::CreateFromHBitmap(gdi::HBITMAP hBMP) try {
     if (!hBMP) return false;
     gdi::BITMAP record{};
     gdi::GetObjectA(hBMP, gdi::kBitmapRecordSize, &record);
@@ -26,9 +27,11 @@ bool cAlphaDIBSection::CreateFromHBitmap(gdi::HBITMAP hBMP) {
     const ScopedSelection selected(source.get(), hBMP);
     LoadPictureBlt(source.get());
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
-bool cAlphaDIBSection::FromHBITMAP(gdi::HBITMAP hBMP, int32_t X, int32_t Y, int32_t w, int32_t h) {
+bool cAlphaDIBSection::FromHBITMAP(gdi::HBITMAP hBMP, int32_t X, int32_t Y, int32_t w, int32_t h) try {
     if (!hBMP) return false;
     gdi::DIBSECTION section;
     // Meant for device bitmaps: a DIB section is refused.
@@ -53,10 +56,12 @@ bool cAlphaDIBSection::FromHBITMAP(gdi::HBITMAP hBMP, int32_t X, int32_t Y, int3
     const ScopedSelection selected(source.get(), hBMP);
     gdi::BitBlt(hDC_, 0, 0, w, h, source.get(), X, Y, gdi::SRCCOPY);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool cAlphaDIBSection::FromAlphaDIBSection(const Ref<cAlphaDIBSection>& Src, int32_t X, int32_t Y,
-                                           int32_t Width, const int32_t& Height) {
+                                           int32_t Width, const int32_t& Height) try {
     if (!Src) throw Error(ErrorNumber::ObjectNotSet, "cAlphaDIBSection", "Object not set");
     if (Passes(X, Width, Src->Width()) || X < 0 || Passes(Y, Height, Src->Height()) || Y < 0) {
         return false;
@@ -65,14 +70,18 @@ bool cAlphaDIBSection::FromAlphaDIBSection(const Ref<cAlphaDIBSection>& Src, int
     // The copy starts at the bottom row whatever `Y` is; a cell view is what minds it.
     CopyRows(*Src, X, 0);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
-Ref<ole::Picture> cAlphaDIBSection::Picture() {
+Ref<ole::Picture> cAlphaDIBSection::Picture() try {
     if (!hDC_ || !hDIB_) return nullptr;
     const auto copy = New<cAlphaDIBSection>();
     copy->Create(Width(), Height());
     copy->LoadPictureBlt(hDC_);
     return ole::OleCreatePictureIndirect(copy->ExtractDib(), ole::kPictureBitmap, true);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.Picture");
 }
 
 }  // namespace vxgui

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/modMsImg32.h"
 #include "vxgui/frame/modMsvfw32.h"
@@ -17,7 +18,7 @@ int32_t OrDefault(int32_t length, int32_t whole) { return length < 0 ? whole : l
 void cAlphaDIBSection::PaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDstTop,
                                     int32_t lDstWidth, int32_t lDstHeight, int32_t lSrcLeft,
                                     int32_t lSrcTop, int32_t lSrcWidth, int32_t lSrcHeight,
-                                    uint32_t eRop) {
+                                    uint32_t eRop) try {
     const int32_t w = OrDefault(lDstWidth, Width());
     const int32_t h = OrDefault(lDstHeight, Height());
     const int32_t sw = OrDefault(lSrcWidth, Width());
@@ -31,12 +32,14 @@ void cAlphaDIBSection::PaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDs
     } else {
         gdi::StretchBlt(lHDC, lDstLeft, lDstTop, w, h, hDC_, lSrcLeft, lSrcTop, sw, sh, eRop);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.PaintPicture");
 }
 
 void cAlphaDIBSection::TransPaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDstTop,
                                          int32_t lDstWidth, int32_t lDstHeight, int32_t lSrcLeft,
                                          int32_t lSrcTop, int32_t lSrcWidth, int32_t lSrcHeight,
-                                         int32_t crTransparent) {
+                                         int32_t crTransparent) try {
     const int32_t sw = OrDefault(lSrcWidth, Width());
     const int32_t sh = OrDefault(lSrcHeight, Height());
     // Unlike the other two, it draws at the source's size when none is given.
@@ -49,12 +52,14 @@ void cAlphaDIBSection::TransPaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_
         Vex_TransparentBlt(lHDC, lDstLeft, lDstTop, w, h, hDC_, lSrcLeft, lSrcTop, sw, sh,
                            crTransparent);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.TransPaintPicture");
 }
 
 void cAlphaDIBSection::AlphaPaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDstTop,
                                          int32_t lDstWidth, int32_t lDstHeight, int32_t lSrcLeft,
                                          int32_t lSrcTop, int32_t lSrcWidth, int32_t lSrcHeight,
-                                         uint8_t lConstantAlpha, bool bHasAlphaChannel) {
+                                         uint8_t lConstantAlpha, bool bHasAlphaChannel) try {
     const int32_t w = OrDefault(lDstWidth, Width());
     const int32_t h = OrDefault(lDstHeight, Height());
     const int32_t sw = OrDefault(lSrcWidth, Width());
@@ -66,6 +71,8 @@ void cAlphaDIBSection::AlphaPaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_
         Vx_AlphaBlend(lHDC, lDstLeft, lDstTop, w, h, hDC_, lSrcLeft, lSrcTop, sw, sh,
                       lConstantAlpha, bHasAlphaChannel);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.AlphaPaintPicture");
 }
 
 void cAlphaDIBSection::PaintByMode(gdi::HDC hDC, int32_t lDstLeft, int32_t lDstTop,

@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/platform/codecs.h"
@@ -50,7 +51,7 @@ bool IsAllowed(const gdi::BITMAPINFOHEADER& header) {
 
 }  // namespace
 
-void cAlphaDIBSection::ToByteArray(ByteArray& b, int16_t Flags) {
+void cAlphaDIBSection::ToByteArray(ByteArray& b, int16_t Flags) try {
     SerialHeader serial{{}, 2, Flags, sizeof serial, transparentColor_, flags_};
     std::ranges::copy(kMagic, serial.magic);
     const size_t imageSize = bits_ ? ImageSize(header_) : 0;
@@ -59,18 +60,24 @@ void cAlphaDIBSection::ToByteArray(ByteArray& b, int16_t Flags) {
     std::memcpy(b.data() + sizeof serial, &header_, sizeof header_);
     const size_t there = std::min(imageSize, MemorySize());
     if (there) std::memcpy(b.data() + kPixelOffset, bits_, there);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.ToByteArray");
 }
 
-bool cAlphaDIBSection::Equal(const Ref<cAlphaDIBSection>& Item) {
+bool cAlphaDIBSection::Equal(const Ref<cAlphaDIBSection>& Item) try {
     if (!Item) return false;
     ByteArray mine, other;
     ToByteArray(mine, 0);
     Item->ToByteArray(other, 0);
     return mine == other;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.Equal");
 }
 
-bool cAlphaDIBSection::FromByteArray(const ByteArray& b) {
+bool cAlphaDIBSection::FromByteArray(const ByteArray& b) try {
     return !b.empty() && FromLp(b.data(), static_cast<int32_t>(b.size()));
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.FromByteArray");
 }
 
 bool cAlphaDIBSection::FromLp(const void* lp, int32_t SIZE) {
@@ -121,16 +128,18 @@ void cAlphaDIBSection::Adopt(gdi::HDC dc, gdi::HBITMAP bitmap, void* bits,
     oldBitmap_ = gdi::SelectObject(hDC_, hDIB_);
 }
 
-void cAlphaDIBSection::WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags) {
+void cAlphaDIBSection::WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags) try {
     ole::PropertyBag& bag = Require(PropBag, kKey);
     const bool compressed = Flags & 1;
     ByteArray buffer;
     ToByteArray(buffer, static_cast<int16_t>(Flags & 1));
     if (!compressed) bag.WriteProperty(kCompressedKey, 0, 1);
     bag.WriteProperty(kKey, compressed ? core7::Compress(buffer) : std::move(buffer));
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.WriteProperties");
 }
 
-void cAlphaDIBSection::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
+void cAlphaDIBSection::ReadProperties(const Ref<ole::PropertyBag>& PropBag) try {
     const ole::PropertyBag& bag = Require(PropBag, kKey);
     const bool compressed = IntegerFrom(bag.ReadProperty(kCompressedKey, 1), kKey) != 0;
     const Variant value = bag.ReadProperty(kKey);
@@ -141,6 +150,8 @@ void cAlphaDIBSection::ReadProperties(const Ref<ole::PropertyBag>& PropBag) {
     } else if (const auto plain = core7::Decompress(*stored)) {
         FromByteArray(*plain);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.ReadProperties");
 }
 
 }  // namespace vxgui

@@ -1,9 +1,10 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/pixels/Resample.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
 
-Ref<cAlphaDIBSection> cAlphaDIBSection::Resample(int32_t lNewHeight, int32_t lNewWidth) {
+Ref<cAlphaDIBSection> cAlphaDIBSection::Resample(int32_t lNewHeight, int32_t lNewWidth) try {
     Ref<cAlphaDIBSection> result = New<cAlphaDIBSection>();
     if (!result->Create(lNewWidth, lNewHeight)) return nullptr;
     if (lNewWidth == Width() && lNewHeight == Height()) {
@@ -12,6 +13,8 @@ Ref<cAlphaDIBSection> cAlphaDIBSection::Resample(int32_t lNewHeight, int32_t lNe
         ResampleBilinear(result);
     }
     return result;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.Resample");
 }
 
 bool cAlphaDIBSection::ResampleBilinear(const Ref<cAlphaDIBSection>& dst) {

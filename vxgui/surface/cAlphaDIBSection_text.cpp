@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/gdi_text.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/ScratchBitmap.h"
@@ -22,7 +23,7 @@ ARGB Covered(COLORREF color, uint8_t coverage) {
 }  // namespace
 
 int32_t cAlphaDIBSection::DrawText(const String& Text, gdi::RECT& rc, uint32_t dwFlags,
-                                   int32_t Lenght) {
+                                   int32_t Lenght) try {
     const gdi::BITMAPINFO info = DibInfo(Width(), Height());
     const ScratchContext scratch(compatibleDC_);
     if (!scratch) return 0;
@@ -41,6 +42,8 @@ int32_t cAlphaDIBSection::DrawText(const String& Text, gdi::RECT& rc, uint32_t d
         if (const uint8_t covered = (coverage++)->Blue) pixel = Covered(color, covered);
     }
     return result;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("cAlphaDIBSection.DrawText");
 }
 
 }  // namespace vxgui

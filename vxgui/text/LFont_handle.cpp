@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/gdip/GpFont.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/platform/gdi_text.h"
@@ -7,7 +8,7 @@
 
 namespace vxgui {
 
-gdi::HFONT LFont::hFont() {
+gdi::HFONT LFont::hFont() try {
     const KeepAlive keep(this);
     if (!Name.empty() && !font_) {
         font_ = gdi::CreateFontA(Height, Width, Escapement, Orientation, Weight, Italic, Underline,
@@ -20,15 +21,19 @@ gdi::HFONT LFont::hFont() {
         stock_ = true;
     }
     return font_;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.hFont");
 }
 
-Ref<class GpFont> LFont::GpFont() {
+Ref<class GpFont> LFont::GpFont() try {
     const KeepAlive keep(this);
     if (!gpFont_) {
         gpFont_ = New<class GpFont>();
         gpFont_->FromStdFont(StdFont());
     }
     return gpFont_;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.GpFont");
 }
 
 void LFont::Dispose() {

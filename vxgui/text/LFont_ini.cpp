@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/text/DefineSection.h"
 #include "vxgui/text/LFont.h"
 #include "vxgui/text/TextStyle.h"
@@ -26,7 +27,7 @@ void ReadQuality(LFont& font, const DefineSection& section) {
 
 }  // namespace
 
-void LFont::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName) {
+void LFont::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName) try {
     const KeepAlive keep(this);
     Dispose();
     const DefineSection section(defineFile, sectionName, "LFont.FromIniFile");
@@ -46,6 +47,8 @@ void LFont::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& 
     if (section.Integer("DrawingStyle") < 1) return;
     DrawingStyle = New<TextStyle>();
     DrawingStyle->FromIniFile(defineFile, sectionName);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.FromIniFile");
 }
 
 }  // namespace vxgui

@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/text/LFont.h"
@@ -38,7 +39,7 @@ constexpr char kReading[] = "LFont.ReadProperties";
 
 }  // namespace
 
-void LFont::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
+void LFont::ReadProperties(const Ref<ole::PropertyBag>& propBag) try {
     const KeepAlive keep(this);
     const ole::PropertyBag& bag = Require(propBag, kReading);
     Name = TextFrom(bag.ReadProperty("Name", String()), kReading);
@@ -48,9 +49,11 @@ void LFont::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
     for (const auto& [key, field, fallback] : kBytes) {
         this->*field = ByteFrom(bag.ReadProperty(key, fallback), kReading);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.ReadProperties");
 }
 
-void LFont::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
+void LFont::WriteProperties(const Ref<ole::PropertyBag>& propBag) const try {
     const KeepAlive keep(this);
     ole::PropertyBag& bag = Require(propBag, "LFont.WriteProperties");
     bag.WriteProperty("Name", Name, String());
@@ -60,6 +63,8 @@ void LFont::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
     for (const auto& [key, field, fallback] : kBytes) {
         bag.WriteProperty(key, int32_t{this->*field}, fallback);
     }
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.WriteProperties");
 }
 
 }  // namespace vxgui

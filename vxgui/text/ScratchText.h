@@ -34,6 +34,8 @@ public:
     ScopedTextColor(gdi::HDC dc, int32_t color)
         : dc_(dc), old_(gdi::SetTextColor(dc, static_cast<COLORREF>(color))) {}
     ~ScopedTextColor() { gdi::SetTextColor(dc_, old_); }
+    /// The colour that is put back.
+    COLORREF& Before() { return old_; }
     ScopedTextColor(const ScopedTextColor&) = delete;
     ScopedTextColor& operator=(const ScopedTextColor&) = delete;
 
@@ -49,6 +51,34 @@ public:
     ~ScopedBkMode() { gdi::SetBkMode(dc_, old_); }
     ScopedBkMode(const ScopedBkMode&) = delete;
     ScopedBkMode& operator=(const ScopedBkMode&) = delete;
+
+private:
+    gdi::HDC dc_;
+    int old_;
+};
+
+/// Selects a font for the length of a scope.
+class ScopedFont {
+public:
+    ScopedFont(gdi::HDC dc, gdi::HFONT font) : dc_(dc), old_(gdi::SelectObject(dc, font)) {}
+    ~ScopedFont() { gdi::SelectObject(dc_, old_); }
+    ScopedFont(const ScopedFont&) = delete;
+    ScopedFont& operator=(const ScopedFont&) = delete;
+
+private:
+    gdi::HDC dc_;
+    gdi::HGDIOBJ old_;
+};
+
+/// Puts a context's character extra back at the end of a scope, where it was changed.
+class ScopedCharacterExtra {
+public:
+    explicit ScopedCharacterExtra(gdi::HDC dc) : dc_(dc), old_(gdi::GetTextCharacterExtra(dc)) {}
+    ~ScopedCharacterExtra() {
+        if (gdi::GetTextCharacterExtra(dc_) != old_) gdi::SetTextCharacterExtra(dc_, old_);
+    }
+    ScopedCharacterExtra(const ScopedCharacterExtra&) = delete;
+    ScopedCharacterExtra& operator=(const ScopedCharacterExtra&) = delete;
 
 private:
     gdi::HDC dc_;

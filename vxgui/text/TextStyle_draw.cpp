@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/colour/modColours.h"
 #include "vxgui/platform/gdi.h"
@@ -30,22 +31,12 @@ void AlignTop(gdi::RECT& rect, int32_t align, int32_t height) {
     if (align == TextAlignVertBottom) rect.top = WrapSub(rect.bottom, height);
 }
 
-// What the context gets back its character extra by.
-struct CharacterSpread {
-    int32_t before = 0;
-    int32_t extra = 0;
-};
-
-CharacterSpread SpreadCharacters(gdi::HDC dc, const String& text, gdi::RECT& rect,
-                                 int32_t alignVert) {
-    CharacterSpread spread;
-    spread.before = gdi::SetTextCharacterExtra(dc, 0);
+void SpreadCharacters(gdi::HDC dc, const String& text, gdi::RECT& rect, int32_t alignVert) {
+    gdi::SetTextCharacterExtra(dc, 0);
     const gdi::SIZE size = ExtentOf(dc, text);
     const auto gaps = static_cast<int32_t>(text.size()) - 1;
-    spread.extra = WrapSub(WrapSub(rect.right, size.cx), rect.left) / gaps;
-    gdi::SetTextCharacterExtra(dc, spread.extra);
+    gdi::SetTextCharacterExtra(dc, WrapSub(WrapSub(rect.right, size.cx), rect.left) / gaps);
     AlignTop(rect, alignVert, size.cy);
-    return spread;
 }
 
 }  // namespace
@@ -63,26 +54,25 @@ gdi::RECT TextStyle::AlignRectangle(gdi::HDC hDC, const String& text, gdi::RECT 
 }
 
 void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<class LFont>& LFont,
-                         int32_t x1, int32_t y1, int32_t x2, int32_t y2) {
+                         int32_t x1, int32_t y1, int32_t x2, int32_t y2) try {
     const KeepAlive keep(this);
     if (!LFont) LFont = New<class LFont>();
     mFont = LFont;
-    if (!mGraphics) {
-        mGraphics = New<GpGraphics>();
-        mSurface = New<cAlphaDIBSection>();
-        mStringFormat = New<GpStringFormat>();
-    }
+    // Each for itself: memory may have run out between them the last time.
+    if (!mGraphics) mGraphics = New<GpGraphics>();
+    if (!mSurface) mSurface = New<cAlphaDIBSection>();
+    if (!mStringFormat) mStringFormat = New<GpStringFormat>();
     gdi::RECT rect{x1, y1, x2, y2};
-    const int oldMode = gdi::SetBkMode(hDC, gdi::TRANSPARENT);
-    const gdi::HGDIOBJ oldFont = gdi::SelectObject(hDC, mFont->hFont());
-    COLORREF oldColor = gdi::SetTextColor(hDC, ColorRefOf(TextColor));
+    const ScopedBkMode transparent(hDC, gdi::TRANSPARENT);
+    const ScopedFont font(hDC, mFont->hFont());
+    ScopedTextColor colored(hDC, static_cast<int32_t>(ColorRefOf(TextColor)));
+    const ScopedCharacterExtra asBefore(hDC);
     uint32_t flags = AlignedFlags(Flags & kEllipses ? Flags : Flags | DT_END_ELLIPSIS);
-    CharacterSpread spread;
     if (TextAlignHorz == TextAlignHorzJustifyChar) {
         if (Text.size() < 2) {
             flags |= DT_CENTER;
         } else {
-            spread = SpreadCharacters(hDC, Text, rect, TextAlignVert);
+            SpreadCharacters(hDC, Text, rect, TextAlignVert);
         }
     }
     const bool moves = TextAlignVert == TextAlignVertCenter || TextAlignVert == TextAlignVertBottom;
@@ -90,11 +80,9 @@ void TextStyle::DrawText(gdi::HDC hDC, const String& Text, uint32_t Flags, Ref<c
         AlignTop(rect, TextAlignVert, ExtentOf(hDC, Text).cy);
     rect = AlignRectangle(hDC, Text, rect, flags);
     DTFlags = flags;
-    PaintByStyle(hDC, Text, rect, flags, oldColor);
-    if (spread.before != spread.extra) gdi::SetTextCharacterExtra(hDC, spread.before);
-    gdi::SelectObject(hDC, oldFont);
-    gdi::SetTextColor(hDC, oldColor);
-    gdi::SetBkMode(hDC, oldMode);
+    PaintByStyle(hDC, Text, rect, flags, colored.Before());
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("TextStyle.DrawText");
 }
 
 void TextStyle::PaintByStyle(gdi::HDC hDC, const String& text, gdi::RECT rect, uint32_t flags,

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "vxgui/base/NumberText.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/text/ColorText.h"
 #include "vxgui/text/DefineSection.h"
@@ -67,7 +68,7 @@ void ReadShadow(Style& style, const DefineSection& section) {
 
 }  // namespace
 
-void TextStyle::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName) {
+void TextStyle::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& sectionName) try {
     const KeepAlive keep(this);
     const DefineSection section(defineFile, sectionName, "TextStyle.FromIniFile");
     String color = section.Text("TextColor");
@@ -78,6 +79,8 @@ void TextStyle::FromIniFile(const Ref<core7::DefineFile>& defineFile, const Stri
     FormatFlags = section.Integer("FormatFlags");
     TextStyle = ReadDrawStyle(section);
     if (TextStyle > 0) ReadShadow(*this, section);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("TextStyle.FromIniFile");
 }
 
 }  // namespace vxgui

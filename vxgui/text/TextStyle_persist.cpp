@@ -1,3 +1,4 @@
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/text/TextStyle.h"
@@ -34,7 +35,7 @@ constexpr char kReading[] = "TextStyle.ReadProperties";
 
 }  // namespace
 
-void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
+void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) try {
     const KeepAlive keep(this);
     const ole::PropertyBag& bag = Require(propBag, kReading);
     const auto read = [&](const Property& property) {
@@ -46,9 +47,11 @@ void TextStyle::ReadProperties(const Ref<ole::PropertyBag>& propBag) {
     read(kDrawStyle);
     if (TextStyle <= 0) return;
     for (const Property& property : kShadow) read(property);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("TextStyle.ReadProperties");
 }
 
-void TextStyle::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
+void TextStyle::WriteProperties(const Ref<ole::PropertyBag>& propBag) const try {
     const KeepAlive keep(this);
     ole::PropertyBag& bag = Require(propBag, "TextStyle.WriteProperties");
     const auto write = [&](const Property& property) {
@@ -59,6 +62,8 @@ void TextStyle::WriteProperties(const Ref<ole::PropertyBag>& propBag) const {
     write(kFormatFlags);
     if (TextStyle <= 0) return;
     for (const Property& property : kShadow) write(property);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("TextStyle.WriteProperties");
 }
 
 }  // namespace vxgui
