@@ -210,7 +210,7 @@ TEST(SavedSkin, MayBeNamedFromItsOwnFolder) {
 #ifdef VXGUI_STYLES_FOLDER
 TEST(StyleOfAModule, IsRecolouredAndSavedAsASkinInAFolder) {
     const test::TemporaryFolder folder;
-    const std::string reference = "res:" VXGUI_STYLES_FOLDER "/DefaultStyles.dll:blue";
+    const std::string reference = "res:DefaultStyles:blue";
     const auto original = OriginalOf(reference);
     EXPECT_EQ(DifferenceOf(LoadSkin(reference), LoadRecoloured(*original, {})), "");
     const Skin shown = LoadRecoloured(*original, kThird);

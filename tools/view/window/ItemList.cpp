@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
-#include "tools/view/ShownItem.h"
+#include "tools/view/ItemFacts.h"
 #include "tools/view/window/QtPixels.h"
 #include "vxgui/theme/ItemLook.h"
 
@@ -21,7 +21,11 @@ gdi::SIZE PaintedSize(const gdi::SIZE& own) {
 QPixmap ThumbnailOf(const SkinItem& item) {
     const gdi::SIZE size = PaintedSize(OwnSize(*item.item));
     tool::Sheet sheet(size.cx, size.cy);
-    PaintStraight(sheet, {item.item, {}, size});
+    // Some items have nothing to show before the mouse comes.
+    for (const int32_t state : {E_ItemStateNormal, E_ItemStateMouseOver, E_ItemStatePressed}) {
+        PaintStraight(sheet, {item.item, {}, size, state});
+        if (!MainColours(sheet, 1).empty()) break;
+    }
     QImage image = StraightImageOf(sheet);
     if (image.width() > kThumbnail.width() || image.height() > kThumbnail.height())
         image = image.scaled(kThumbnail, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -47,6 +51,7 @@ ItemList::ItemList(QWidget* parent) : QListWidget(parent) {
     setIconSize(kThumbnail);
     setUniformItemSizes(true);
     setSpacing(1);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // long names end in dots
 }
 
 void ItemList::Fill(const Skin& skin) {
