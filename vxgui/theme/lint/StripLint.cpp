@@ -92,6 +92,7 @@ void StripLint::CheckScale(const PictureFacts& facts, const String& name, double
         page_.FailAt(section_, keys_.scales, Quoted(name) + text);
     };
     if (!facts.exists) return fail(" is not there");
+    if (facts.outside) return page_.WarnOfPlace(section_, keys_.scales, name);
     if (facts.width < 1 || facts.height < 1)
         return fail(" is no picture that can be read: BMP, PNG, JPEG, GIF or TGA was expected");
     const int32_t width = facts.width / (vertical_ ? 1 : frames_);
@@ -108,7 +109,7 @@ void StripLint::CheckScales(PictureShelf& shelf) {
     if (!whole_) return;
     for (const double scale : ScalesIn(page_.Text(section_, keys_.scales))) {
         const String name = NameAtScale(name_, scale);
-        CheckScale(shelf.Use(folder_, name), name, scale);
+        CheckScale(shelf.Use(folder_, name, keys_.absolute), name, scale);
     }
 }
 
