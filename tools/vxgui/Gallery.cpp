@@ -1,9 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 
 #include "tools/vxgui/Commands.h"
@@ -13,6 +10,7 @@
 #include "tools/vxgui/Sheet.h"
 #include "tools/vxgui/ToolError.h"
 #include "tools/vxgui/html/HtmlGallery.h"
+#include "vxgui/platform/core7.h"
 #include "vxgui/theme/ScaledLength.h"
 #include "vxgui/theme/skin/ScaledSkin.h"
 
@@ -93,10 +91,8 @@ void WritePage(const Skin& skin, const Options& options, std::ostream& out) {
     std::error_code error;
     std::filesystem::create_directories(options.html, error);
     const std::string page = HtmlGallery(skin, options.scale);
-    errno = 0;
-    std::ofstream file(path, std::ios::binary);
-    file << page;
-    if (!file.flush()) Fail(path, std::string("can't be written: ") + std::strerror(errno));
+    if (!core7::WriteWholeFile(path, page.data(), page.size()))
+        FailBySystem(path, "can't be written");
     out << path << ": " << skin.items.size() << " items, " << page.size() << " bytes\n";
 }
 

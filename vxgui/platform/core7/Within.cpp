@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 fs::path Real(const String& path) {
     const std::string native = NativePath(path);
-    return fs::weakly_canonical(native.empty() ? "." : native);
+    return fs::weakly_canonical(fs::absolute(native.empty() ? "." : native));
 }
 
 }  // namespace
