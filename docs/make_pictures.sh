@@ -25,7 +25,7 @@ button button-pressed Pressed
 button button-disabled Disabled
 
 guide() { # NAME ITEM SIZE [MORE ...]
-    "$tool" render docs/guide/guide.theme --item "$2" --size "$3" -o "$out/guide/$1.png" "${@:4}"
+    "$tool" --any-folder render docs/guide/guide.theme --item "$2" --size "$3" -o "$out/guide/$1.png" "${@:4}"
 }
 for tile in 0 1 2 3 4; do guide "tile-$tile" "Tile$tile" 150x70; done
 for mode in 0 1 2; do guide "mode-$mode" "Mode$mode" 90x46; done

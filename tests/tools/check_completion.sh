@@ -27,9 +27,11 @@ expect() {
 
 names=$("$tool" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\)  .*/\1/p' | sort)
 [ "$(wc -w <<<"$names")" -ge 12 ] || { echo "--help lists hardly any subcommand"; exit 1; }
-expect "vxgui" "$(printf '%s\n' $names --help --version -h | sort)" "$(completed vxgui '')"
+# The options that a help text lists.
+options_in() { grep -oE '^  (-[a-zA-Z],)?--?[a-z0-9-]+|^  -[a-zA-Z]' | tr -d ' ' | tr ',' '\n' | sort -u; }
+expect "vxgui" "$(printf '%s\n' $names $("$tool" --help | options_in) | sort)" "$(completed vxgui '')"
 for name in $names; do
-    options=$("$tool" "$name" --help | grep -oE '^  (-[a-zA-Z],)?--?[a-z0-9-]+|^  -[a-zA-Z]' | tr -d ' ' | tr ',' '\n' | sort -u)
+    options=$("$tool" "$name" --help | options_in)
     expect "vxgui $name -" "$options" "$(completed vxgui "$name" - | sort -u)"
     grep -q "^\.SH $(tr a-z A-Z <<<"$name")\$" "$work/vxgui.1" || { echo "no $name in the manual"; status=1; }
     for option in $options; do
