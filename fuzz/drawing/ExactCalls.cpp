@@ -97,21 +97,18 @@ void ExactCalls::Blend(ByteReader& bytes) {
                     from.left, from.top, from.width, from.height, alpha << 16 | hasChannel << 24);
 }
 
-void ExactCalls::Fill(ByteReader& bytes) {
+template <class Paint>
+void ExactCalls::WithBrush(ByteReader& bytes, Paint paint) {
     const Box box = BoxOf(bytes);
     const gdi::RECT rect{box.left, box.top, box.left + box.width, box.top + box.height};
     const gdi::HBRUSH brush = gdi::CreateSolidBrush(bytes.Take<uint32_t>() & 0xFFFFFF);
-    gdi::FillRect(canvas_->hDC(), &rect, brush);
+    paint(canvas_->hDC(), &rect, brush);
     gdi::DeleteObject(brush);
 }
 
-void ExactCalls::Frame(ByteReader& bytes) {
-    const Box box = BoxOf(bytes);
-    const gdi::RECT rect{box.left, box.top, box.left + box.width, box.top + box.height};
-    const gdi::HBRUSH brush = gdi::CreateSolidBrush(bytes.Take<uint32_t>() & 0xFFFFFF);
-    gdi::FrameRect(canvas_->hDC(), &rect, brush);
-    gdi::DeleteObject(brush);
-}
+void ExactCalls::Fill(ByteReader& bytes) { WithBrush(bytes, gdi::FillRect); }
+
+void ExactCalls::Frame(ByteReader& bytes) { WithBrush(bytes, gdi::FrameRect); }
 
 void ExactCalls::Edge(ByteReader& bytes) {
     const Box box = BoxOf(bytes);
@@ -165,27 +162,32 @@ void ExactCalls::Reload(ByteReader& bytes) {
     Paint(picture, bytes.Take<uint32_t>());
 }
 
+// Here and below each value is taken in a statement or in braces: compilers are free in the order
+// of a call's arguments, and the calls must be the same with all of them.
 void ExactCalls::Blur(ByteReader& bytes) {
     const auto reach = [&] { return bytes.Take<uint8_t>() % 5; };
-    const int32_t x = reach(), y = reach();
-    Picture(bytes).blur(x, y, bytes.Take<uint8_t>() % 2, bytes.Take<int32_t>() & 0xFFFFFF);
+    const int32_t x = reach(), y = reach(), useColour = bytes.Take<uint8_t>() % 2;
+    Picture(bytes).blur(x, y, useColour, bytes.Take<int32_t>() & 0xFFFFFF);
 }
 
 void ExactCalls::PaintItem(ByteReader& bytes) {
     const Box to = BoxOf(bytes);
-    item_->DrawBackground(canvas_->hDC(), to.left, to.top, to.width, to.height,
-                          bytes.Take<uint8_t>() % 6 - 1, bytes.Take<uint8_t>() % 6 - 1);
+    const int32_t frame = bytes.Take<uint8_t>() % 6 - 1, glyph = bytes.Take<uint8_t>() % 6 - 1;
+    item_->DrawBackground(canvas_->hDC(), to.left, to.top, to.width, to.height, frame, glyph);
 }
 
 void ExactCalls::ChangeItem(ByteReader& bytes) {
     const auto small = [&] { return bytes.Take<uint8_t>() % 8; };
+    const auto sides = [&] { return Box{small(), small(), small(), small()}; };
     item_->FrameCount(small());
     item_->FrameVert(small() % 2);
     item_->TransMode(small() % 4);
     item_->ImageAlpha(bytes.Take<uint8_t>());
-    item_->SetTile(small(), small() % 2, small() % 2, small() % 2, small() % 2);
-    item_->SetImageMargin(small(), small(), small(), small());
-    item_->SetGlyphMargin(small(), small(), small(), small());
+    const int32_t tile = small();
+    const Box edges = sides(), image = sides(), glyph = sides();
+    item_->SetTile(tile, edges.left % 2, edges.top % 2, edges.width % 2, edges.height % 2);
+    item_->SetImageMargin(image.left, image.top, image.width, image.height);
+    item_->SetGlyphMargin(glyph.left, glyph.top, glyph.width, glyph.height);
     item_->GlyphAlign(bytes.Take<uint8_t>() % 12);
     item_->State(small());
 }

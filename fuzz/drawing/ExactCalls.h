@@ -33,6 +33,9 @@ private:
     void KeyBlit(ByteReader& bytes);
     void AlphaBlit(ByteReader& bytes);
     void Blend(ByteReader& bytes);
+    /// Calls `paint` with a rectangle and a brush of a colour.
+    template <class Paint>
+    void WithBrush(ByteReader& bytes, Paint paint);
     void Fill(ByteReader& bytes);
     void Frame(ByteReader& bytes);
     void Edge(ByteReader& bytes);
