@@ -6,7 +6,8 @@ BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config libpixman-1-dev libcairo
   python3 fonts-dejavu-core fonts-wqy-microhei"
 TEST_PACKAGES="$BUILD_PACKAGES libgtest-dev libgmock-dev fonts-noto-core imagemagick icoutils
   qt6-base-dev libsdl2-dev libx11-dev xvfb xdotool doxygen lintian"
-BENCH_PACKAGES="$BUILD_PACKAGES libbenchmark-dev"
+BENCH_PACKAGES="$BUILD_PACKAGES libbenchmark-dev libyuv-dev libopencv-core-dev libopencv-imgproc-dev libsdl2-dev
+  libimlib2-dev libstb-dev qt6-base-dev"
 
 missing_packages() {
     local package
