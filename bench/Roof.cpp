@@ -8,7 +8,7 @@
 namespace vxgui::bench {
 namespace {
 
-VXGUI_MULTIVERSION void Mix(uint32_t* to, const uint32_t* from, size_t count) {
+VXGUI_MULTIVERSION(void, Mix, (uint32_t * to, const uint32_t* from, size_t count)) {
     for (size_t i = 0; i < count; ++i) to[i] ^= from[i];
 }
 

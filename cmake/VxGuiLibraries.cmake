@@ -11,9 +11,12 @@ file(GLOB_RECURSE VXGUI_SOURCES CONFIGURE_DEPENDS
 # Folders of headers that no host sees: what stands behind the platform's and the C headers.
 set(VXGUI_INNER_FOLDERS c codecs core7 corehlp forms gdi gdiplus kernel ole qt6)
 
-# The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone.
-file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp vxgui/platform/gdi/*.cpp
-     vxgui/platform/gdiplus/words/*.cpp)
+# The pixel loops are shaped to be vectorised, which the compiler does at -O3 alone. The tests of a
+# build for development try what is released, so it has those at -O3 too.
+file(GLOB VXGUI_LOOP_SOURCES CONFIGURE_DEPENDS vxgui/pixels/*.cpp
+     vxgui/platform/gdiplus/words/*.cpp vxgui/platform/gdiplus/graphics/Resampler.cpp)
+set_source_files_properties(${VXGUI_LOOP_SOURCES} PROPERTIES COMPILE_OPTIONS -O3)
+file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/platform/gdi/*.cpp)
 set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS
                             "$<$<NOT:$<CONFIG:Debug>>:-O3>")
 

@@ -14,8 +14,7 @@ namespace {
 /// Pixels looked at between two tests: a loop that may leave at any pixel can't be vectorised.
 constexpr size_t kBlock = 256;
 
-VXGUI_MULTIVERSION
-bool BlockHasOtherAlpha(std::span<const ARGB> pixels, uint32_t alpha) {
+VXGUI_MULTIVERSION(bool, BlockHasOtherAlpha, (std::span<const ARGB> pixels, uint32_t alpha)) {
     uint32_t difference = 0;
     for (const ARGB& pixel : pixels) difference |= Load(pixel) ^ alpha << 24;
     return (difference & kAlpha) != 0;

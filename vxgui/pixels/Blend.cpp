@@ -11,8 +11,8 @@ using namespace lanes;
 
 namespace {
 
-VXGUI_MULTIVERSION
-void ConstantLoop(const ARGB* source, ARGB* target, size_t count, uint32_t alpha) {
+VXGUI_MULTIVERSION(void, ConstantLoop,
+                   (const ARGB* source, ARGB* target, size_t count, uint32_t alpha)) {
     const uint32_t rest = 256 - alpha;
     for (size_t i = 0; i < count; ++i) {
         const uint32_t s = Load(source[i]), t = Load(target[i]);
@@ -22,8 +22,8 @@ void ConstantLoop(const ARGB* source, ARGB* target, size_t count, uint32_t alpha
     }
 }
 
-VXGUI_MULTIVERSION
-void StraightLoop(const ARGB* source, ARGB* target, size_t count, uint32_t alpha) {
+VXGUI_MULTIVERSION(void, StraightLoop,
+                   (const ARGB* source, ARGB* target, size_t count, uint32_t alpha)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t s = Load(source[i]), t = Load(target[i]);
         const uint32_t weight = Alpha(s) * alpha / 256, rest = 256 - weight;
@@ -32,8 +32,7 @@ void StraightLoop(const ARGB* source, ARGB* target, size_t count, uint32_t alpha
     }
 }
 
-VXGUI_MULTIVERSION
-void PremultipliedLoop(const ARGB* source, ARGB* target, size_t count) {
+VXGUI_MULTIVERSION(void, PremultipliedLoop, (const ARGB* source, ARGB* target, size_t count)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t s = Load(source[i]), t = Load(target[i]);
         const uint32_t rest = 256 - Alpha(s);

@@ -58,13 +58,22 @@ template <class Sum>
     }
 }
 
-VXGUI_MULTIVERSION
-void Step(const Taps& taps, Sums<uint32_t>& sums, const Scale& scale, uint16_t* __restrict result) {
+VXGUI_MULTIVERSION(void, NarrowStep,
+                   (const Taps& taps, Sums<uint32_t>& sums, const Scale& scale,
+                    uint16_t* __restrict result)) {
     StepLoop(taps, sums, scale, result);
 }
-VXGUI_MULTIVERSION
-void Step(const Taps& taps, Sums<uint64_t>& sums, const Scale& scale, uint16_t* __restrict result) {
+VXGUI_MULTIVERSION(void, WideStep,
+                   (const Taps& taps, Sums<uint64_t>& sums, const Scale& scale,
+                    uint16_t* __restrict result)) {
     StepLoop(taps, sums, scale, result);
+}
+
+void Step(const Taps& taps, Sums<uint32_t>& sums, const Scale& scale, uint16_t* result) {
+    NarrowStep(taps, sums, scale, result);
+}
+void Step(const Taps& taps, Sums<uint64_t>& sums, const Scale& scale, uint16_t* result) {
+    WideStep(taps, sums, scale, result);
 }
 
 /// Adds what the steps before the first position would have left of the sample that a tap takes

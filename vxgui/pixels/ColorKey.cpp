@@ -11,8 +11,8 @@ using namespace lanes;
 
 namespace {
 
-VXGUI_MULTIVERSION
-void MergeLoop(const ARGB* source, ARGB* target, size_t count, uint32_t match) {
+VXGUI_MULTIVERSION(void, MergeLoop,
+                   (const ARGB* source, ARGB* target, size_t count, uint32_t match)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t s = Load(source[i]), t = Load(target[i]);
         Store(target[i], (s & kColor) == match ? t : s);
@@ -21,17 +21,16 @@ void MergeLoop(const ARGB* source, ARGB* target, size_t count, uint32_t match) {
 
 /// Sets the alpha byte to that of `matching` where the colour matches; elsewhere the bits of
 /// `keep` stay and those of `other` are added.
-VXGUI_MULTIVERSION
-void SetAlphaLoop(ARGB* pixels, size_t count, uint32_t match, uint32_t matching, uint32_t keep,
-                  uint32_t other) {
+VXGUI_MULTIVERSION(void, SetAlphaLoop,
+                   (ARGB * pixels, size_t count, uint32_t match, uint32_t matching, uint32_t keep,
+                    uint32_t other)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t value = Load(pixels[i]), color = value & kColor;
         Store(pixels[i], color == match ? color | matching : (value & keep) | other);
     }
 }
 
-VXGUI_MULTIVERSION
-void MaskLoop(ARGB* pixels, size_t count, uint32_t color) {
+VXGUI_MULTIVERSION(void, MaskLoop, (ARGB * pixels, size_t count, uint32_t color)) {
     for (size_t i = 0; i < count; ++i) {
         Store(pixels[i], (Load(pixels[i]) ^ color) & kColor ? kAlpha : 0);
     }

@@ -40,8 +40,7 @@ inline __attribute__((always_inline)) uint32_t Turned(uint32_t pixel, const Colu
     return to[3] << 24 | to[0] << 16 | to[1] << 8 | to[2];
 }
 
-VXGUI_MULTIVERSION
-void TurnLoop(uint32_t* pixels, size_t count, const Columns& columns) {
+VXGUI_MULTIVERSION(void, TurnLoop, (uint32_t * pixels, size_t count, const Columns& columns)) {
     const Columns m = columns;
     for (size_t i = 0; i < count; ++i) pixels[i] = Turned(pixels[i], m);
 }

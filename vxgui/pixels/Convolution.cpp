@@ -38,8 +38,8 @@ std::vector<Tap> TapsOf(const ConvolutionKernel& kernel) {
 /// it away again leaves the integer. Sums far beyond any channel lose their low digits only.
 constexpr double kRounder = 6755399441055744.0;
 
-VXGUI_MULTIVERSION
-void AddRun(double* sums, const uint8_t* samples, size_t count, double weight) {
+VXGUI_MULTIVERSION(void, AddRun,
+                   (double* sums, const uint8_t* samples, size_t count, double weight)) {
     for (size_t i = 0; i < count; ++i) {
         sums[i] = (sums[i] + samples[i] * weight + kRounder) - kRounder;
     }

@@ -12,8 +12,7 @@ using namespace lanes;
 
 namespace {
 
-VXGUI_MULTIVERSION
-void LevelLoop(ARGB* pixels, size_t count, uint32_t level) {
+VXGUI_MULTIVERSION(void, LevelLoop, (ARGB * pixels, size_t count, uint32_t level)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t value = Load(pixels[i]);
         const auto scaled = [&](int shift) {

@@ -1,23 +1,63 @@
 #pragma once
 
-/// Marks a pixel loop of which the compiler makes one version for each instruction set; the
-/// best that the machine has is picked when the library is loaded. For functions of one source
-/// file only: compilers disagree on the names of the versions, and some take the mark for nothing
-/// on a function that was declared before without it. The resolvers run before a sanitizer is
-/// ready, so builds with one have the plain version alone.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || \
-    __has_feature(memory_sanitizer)
-#define VXGUI_SANITIZED 1
-#endif
-#endif
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define VXGUI_SANITIZED 1
+#include "vxgui/pixels/InstructionSet.h"
+
+#if defined(__x86_64__)
+#define VXGUI_TARGET_AVX2 __attribute__((target("avx2")))
+// What x86-64-v4 names, one by one: functions without a target of their own are inlined into one
+// with more features, but not into one of another architecture.
+#define VXGUI_TARGET_AVX512                                                     \
+    __attribute__((                                                             \
+        target("avx512f,avx512bw,avx512cd,avx512dq,avx512vl,avx2,bmi,bmi2,fma," \
+               "f16c,lzcnt,movbe,popcnt")))
+#else
+#define VXGUI_TARGET_AVX2
+#define VXGUI_TARGET_AVX512
 #endif
 
-#if defined(__x86_64__) && defined(__gnu_linux__) && defined(__OPTIMIZE__) && \
-    !defined(VXGUI_SANITIZED)
-#define VXGUI_MULTIVERSION __attribute__((target_clones("default", "avx2", "arch=x86-64-v4")))
-#else
-#define VXGUI_MULTIVERSION
-#endif
+/// Defines a pixel loop of which the compiler makes one version for each instruction set:
+///
+///     VXGUI_MULTIVERSION(void, Invert, (uint32_t* pixels, size_t count)) {
+///         for (size_t i = 0; i < count; ++i) pixels[i] = ~pixels[i];
+///     }
+///
+/// `Invert(pixels, count)` then runs the version that the machine has the instructions for, by one
+/// load and one indirect jump. For the unnamed namespace of a source file; what is called in the
+/// loop must be inlined, or it stays plain.
+#define VXGUI_MULTIVERSION(result, name, parameters)                       \
+    [[gnu::always_inline]] static inline result name##OfAnySet parameters; \
+    static const ::vxgui::MultiversionLoop<&name##OfAnySet> name;          \
+    static inline result name##OfAnySet parameters
+
+namespace vxgui {
+
+template <auto Loop>
+class MultiversionLoop;
+
+/// The versions of one loop and the choice among them. There is one object for each loop; a loop
+/// that runs before its object was made, while the library is loaded, is the plain one.
+template <class Result, class... Arguments, Result (*Loop)(Arguments...)>
+class MultiversionLoop<Loop> : SetDependent {
+public:
+    MultiversionLoop() : SetDependent(Choose) {}
+
+    [[gnu::always_inline]] Result operator()(Arguments... arguments) const {
+        return chosen_(arguments...);
+    }
+
+private:
+    static Result Plain(Arguments... arguments) { return Loop(arguments...); }
+    VXGUI_TARGET_AVX2 static Result Avx2(Arguments... arguments) { return Loop(arguments...); }
+    VXGUI_TARGET_AVX512 static Result Avx512(Arguments... arguments) { return Loop(arguments...); }
+
+    static void Choose(InstructionSet set) {
+        chosen_ = set == InstructionSet::Avx512 ? Avx512
+                  : set == InstructionSet::Avx2 ? Avx2
+                                                : Plain;
+    }
+
+    using Version = Result (*)(Arguments...);
+    static inline constinit Version chosen_ = Plain;
+};
+
+}  // namespace vxgui

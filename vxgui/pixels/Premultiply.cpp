@@ -9,8 +9,7 @@ using namespace lanes;
 
 namespace {
 
-VXGUI_MULTIVERSION
-void PremultiplyLoop(ARGB* pixels, size_t count) {
+VXGUI_MULTIVERSION(void, PremultiplyLoop, (ARGB * pixels, size_t count)) {
     for (size_t i = 0; i < count; ++i) {
         const uint32_t value = Load(pixels[i]), alpha = Alpha(value);
         const uint32_t weight = alpha ? alpha + 1 : 0;

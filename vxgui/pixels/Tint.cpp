@@ -11,8 +11,7 @@ using namespace lanes;
 
 namespace {
 
-VXGUI_MULTIVERSION
-void ColorLoop(ARGB* pixels, size_t count, uint32_t color) {
+VXGUI_MULTIVERSION(void, ColorLoop, (ARGB * pixels, size_t count, uint32_t color)) {
     for (size_t i = 0; i < count; ++i) Store(pixels[i], (Load(pixels[i]) & kAlpha) | color);
 }
 

@@ -13,11 +13,11 @@ constexpr int kKeptBits = 6;  // of fraction in a row that is filtered along x
 constexpr int kKeptShift = AxisTaps::kBits - kKeptBits;
 constexpr int kMixedShift = AxisTaps::kBits + kKeptBits;
 
-VXGUI_MULTIVERSION void AddScaled(const int16_t* from, INT weight, size_t count, INT* sums) {
+VXGUI_MULTIVERSION(void, AddScaled, (const int16_t* from, INT weight, size_t count, INT* sums)) {
     for (size_t i = 0; i < count; ++i) sums[i] += from[i] * weight;
 }
 
-VXGUI_MULTIVERSION void PackChannels(const INT* sums, size_t count, uint8_t* to) {
+VXGUI_MULTIVERSION(void, PackChannels, (const INT* sums, size_t count, uint8_t* to)) {
     for (size_t i = 0; i < count; ++i) {
         const INT value = (sums[i] + (1 << (kMixedShift - 1))) >> kMixedShift;
         to[i] = static_cast<uint8_t>(std::clamp(value, 0, 255));
@@ -25,7 +25,7 @@ VXGUI_MULTIVERSION void PackChannels(const INT* sums, size_t count, uint8_t* to)
 }
 
 // Colours beyond the alpha, which filters that overshoot make, would not be premultiplied ones.
-VXGUI_MULTIVERSION void BoundByAlpha(uint8_t* pixels, size_t count) {
+VXGUI_MULTIVERSION(void, BoundByAlpha, (uint8_t * pixels, size_t count)) {
     for (size_t i = 0; i < count; ++i, pixels += 4) {
         for (int c = 0; c < 3; ++c) pixels[c] = std::min(pixels[c], pixels[3]);
     }

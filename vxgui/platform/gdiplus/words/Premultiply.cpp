@@ -6,7 +6,7 @@
 namespace vxgui::gdiplus {
 namespace {
 
-VXGUI_MULTIVERSION void MultiplyAll(ARGB* pixels, size_t count) {
+VXGUI_MULTIVERSION(void, MultiplyAll, (ARGB * pixels, size_t count)) {
     using channels::kRun;
     for (size_t done = 0; done < count; done += kRun) {
         const size_t run = count - done < kRun ? count - done : kRun;

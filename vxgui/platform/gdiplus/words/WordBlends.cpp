@@ -12,7 +12,8 @@ namespace {
 
 using namespace channels;
 
-VXGUI_MULTIVERSION void ColorOver(uint8_t* to, size_t count, const std::array<uint8_t, 4>& color) {
+VXGUI_MULTIVERSION(void, ColorOver,
+                   (uint8_t * to, size_t count, const std::array<uint8_t, 4>& color)) {
     const std::array<uint16_t, 4> s{color[0], color[1], color[2], color[3]};
     const auto rest = static_cast<uint16_t>(255 - s[3]);
     InWholeSteps(to, to, count, [&](uint8_t* d, const uint8_t*, size_t pixels) {
@@ -22,11 +23,11 @@ VXGUI_MULTIVERSION void ColorOver(uint8_t* to, size_t count, const std::array<ui
     });
 }
 
-VXGUI_MULTIVERSION void WordsOver(uint8_t* to, const uint8_t* from, size_t count) {
+VXGUI_MULTIVERSION(void, WordsOver, (uint8_t * to, const uint8_t* from, size_t count)) {
     DrawOver(to, from, count);
 }
 
-VXGUI_MULTIVERSION void StraightOver(uint8_t* to, const ARGB* from, size_t count) {
+VXGUI_MULTIVERSION(void, StraightOver, (uint8_t * to, const ARGB* from, size_t count)) {
     ARGB multiplied[kRun];
     for (size_t done = 0; done < count; done += kRun) {
         const size_t run = count - done < kRun ? count - done : kRun;
@@ -35,8 +36,9 @@ VXGUI_MULTIVERSION void StraightOver(uint8_t* to, const ARGB* from, size_t count
     }
 }
 
-VXGUI_MULTIVERSION void CoveredOver(uint8_t* __restrict to, const uint8_t* __restrict coverage,
-                                    size_t count, const std::array<uint8_t, 4>& color) {
+VXGUI_MULTIVERSION(void, CoveredOver,
+                   (uint8_t* __restrict to, const uint8_t* __restrict coverage, size_t count,
+                    const std::array<uint8_t, 4>& color)) {
     const std::array<uint16_t, 4> s{color[0], color[1], color[2], color[3]};
     for (size_t done = 0; done < count; done += kRun) {
         const size_t run = count - done < kRun ? count - done : kRun;
