@@ -8,4 +8,5 @@ foreach(name pictures/Bmp pictures/Gif pictures/Icon pictures/Jpeg pictures/Png 
 endforeach()
 set(VXGUI_FUZZ_PARTS ${CMAKE_CURRENT_LIST_DIR}/SmallLimits.cpp
                      ${CMAKE_CURRENT_LIST_DIR}/drawing/ExactCalls.cpp
-                     ${CMAKE_CURRENT_LIST_DIR}/drawing/ObjectCalls.cpp)
+                     ${CMAKE_CURRENT_LIST_DIR}/drawing/ObjectCalls.cpp
+                     ${CMAKE_CURRENT_LIST_DIR}/drawing/RandomCalls.cpp)
