@@ -161,6 +161,54 @@ TEST(Blend, AllLengthsAndNothingBesides) {
     ExpectAtEveryLength([](auto s, auto t) { Blend(s, t, 255, true); }, reference::Premultiplied);
 }
 
+/// Clear, opaque and mixed stretches, with one stray pixel at each place of a block in turn.
+std::vector<ARGB> RunsWithAStrayPixel(uint32_t stray, ARGB pixel) {
+    std::vector<ARGB> source;
+    for (uint32_t i = 0; i < 1500; ++i) {
+        const uint32_t stretch = i / 300;
+        ARGB own = ARGBFromValue(static_cast<int32_t>(i * 2654435761u));
+        if (stretch == 0 || stretch == 3) own = {};
+        if (stretch == 1 || stretch == 4) own.Alpha = 255;
+        source.push_back(i % 300 == 100 + stray ? pixel : own);
+    }
+    return source;
+}
+
+TEST(BlendPremultiplied, RunsOfClearAndOpaquePixelsHideNoStrayOne) {
+    const ARGB strays[] = {{0, 0, 0, 1}, {1, 0, 0, 0}, {9, 8, 7, 254}, {1, 2, 3, 255}, {}};
+    for (uint32_t place = 0; place < 70; ++place) {
+        for (const ARGB stray : strays) {
+            const std::vector<ARGB> source = RunsWithAStrayPixel(place, stray);
+            std::vector<ARGB> target, expected;
+            for (uint32_t i = 0; i < source.size(); ++i) {
+                target.push_back(ARGBFromValue(static_cast<int32_t>(i * 2246822519u)));
+                expected.push_back(reference::Premultiplied(source[i], target[i]));
+            }
+            BlendPremultiplied(source, target);
+            ASSERT_EQ(target, expected) << "place " << place << ", stray " << int{stray.Alpha};
+        }
+    }
+}
+
+TEST(Blend, RowsThatBeginAtAnyByte) {
+    std::vector<uint8_t> bytes(4 * 200 + 8), others(bytes.size());
+    for (size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<uint8_t>(i * 7 + i / 3);
+        others[i] = static_cast<uint8_t>(i * 13);
+    }
+    for (size_t start = 0; start < 4; ++start) {
+        const std::span source(reinterpret_cast<const ARGB*>(&bytes[start]), 100);
+        std::vector<uint8_t> changed = others;
+        const std::span target(reinterpret_cast<ARGB*>(&changed[start]), 100);
+        std::vector<ARGB> expected;
+        for (size_t i = 0; i < 100; ++i) {
+            expected.push_back(reference::Straight(source[i], target[i], 77));
+        }
+        BlendStraight(source, target, 77);
+        ASSERT_TRUE(std::equal(expected.begin(), expected.end(), target.begin())) << start;
+    }
+}
+
 TEST(Blend, SurfaceOverItself) {
     std::vector<ARGB> pixels, expected;
     for (uint32_t i = 0; i < 1000; ++i) {

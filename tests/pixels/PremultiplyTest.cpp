@@ -37,6 +37,24 @@ TEST(Premultiply, ClearPixelsLoseTheirColour) {
     EXPECT_EQ(pixel, ARGB{});
 }
 
+TEST(Premultiply, AllLengthsAndNothingBesides) {
+    for (size_t length = 0; length < 70; ++length) {
+        std::vector<ARGB> pixels(length + 2);
+        for (size_t i = 0; i < pixels.size(); ++i) {
+            pixels[i] = ARGBFromValue(static_cast<int32_t>(i * 2654435761u + length));
+        }
+        std::vector<ARGB> expected = pixels;
+        for (size_t i = 1; i <= length; ++i) {
+            ARGB& p = expected[i];
+            p = {reference::PremultiplyByte(p.Blue, p.Alpha),
+                 reference::PremultiplyByte(p.Green, p.Alpha),
+                 reference::PremultiplyByte(p.Red, p.Alpha), p.Alpha};
+        }
+        Premultiply(std::span(pixels).subspan(1, length));
+        ASSERT_EQ(pixels, expected) << "length " << length;
+    }
+}
+
 TEST(Premultiply, NothingToDoForNothing) { Premultiply({}); }
 
 }  // namespace

@@ -2,43 +2,135 @@
 
 #include <algorithm>
 
-#include "vxgui/pixels/Lanes.h"
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Steps.h"
 
 namespace vxgui {
 
-using namespace lanes;
+using namespace steps;
 
 namespace {
 
+constexpr uint32_t kAlpha = 0xFF000000;
+
+/// A weight for each half of a step.
+struct Weights {
+    /// `colors` for the colours, `alpha` for the alpha in its upper half.
+    Weights(uint16_t colors, uint16_t alpha) {
+        for (size_t i = 0; i < kHalves; ++i) {
+            low[i] = colors;
+            high[i] = i % 2 ? alpha : colors;
+        }
+    }
+    uint16_t low[kHalves], high[kHalves];
+};
+
+/// In 16 bits the sum of the two products is still exact.
 VXGUI_MULTIVERSION(void, ConstantLoop,
                    (const ARGB* source, ARGB* target, size_t count, uint32_t alpha)) {
-    const uint32_t rest = 256 - alpha;
-    for (size_t i = 0; i < count; ++i) {
-        const uint32_t s = Load(source[i]), t = Load(target[i]);
-        const uint32_t blueRed = Per256(BlueRed(s) * alpha + BlueRed(t) * rest);
-        const uint32_t greenAlpha = Per256(GreenAlpha(s) * alpha + GreenAlpha(t) * rest);
-        Store(target[i], (Join(blueRed, greenAlpha) & kColor) | (t & kAlpha));
-    }
+    const Weights mine(static_cast<uint16_t>(alpha), 0);
+    const Weights rest(static_cast<uint16_t>(256 - alpha), 256);
+    ForEach(
+        source, target, count, [&](const ARGB* from, ARGB* to) __attribute__((always_inline)) {
+            const Halves *s = HalvesOf(from), *t = HalvesOf(to);
+            uint16_t result[kHalves];
+            for (size_t i = 0; i < kHalves; ++i) {
+                const auto low = static_cast<uint16_t>(Product(Low(s[i]), mine.low[i]) +
+                                                       Product(Low(t[i]), rest.low[i]));
+                const auto high = static_cast<uint16_t>(Product(High(s[i]), mine.high[i]) +
+                                                        Product(High(t[i]), rest.high[i]));
+                result[i] = JoinPer256(low, high);
+            }
+            Store(result, to);
+        });
 }
 
 VXGUI_MULTIVERSION(void, StraightLoop,
                    (const ARGB* source, ARGB* target, size_t count, uint32_t alpha)) {
-    for (size_t i = 0; i < count; ++i) {
-        const uint32_t s = Load(source[i]), t = Load(target[i]);
-        const uint32_t weight = Alpha(s) * alpha / 256, rest = 256 - weight;
-        Store(target[i], Join(Per256(BlueRed(s) * weight) + Per256(BlueRed(t) * rest),
-                              Per256(GreenAlpha(s) * weight) + Per256(GreenAlpha(t) * rest)));
+    const auto constant = static_cast<uint16_t>(alpha);
+    ForEach(
+        source, target, count, [&](const ARGB* from, ARGB* to) __attribute__((always_inline)) {
+            const Halves *s = HalvesOf(from), *t = HalvesOf(to);
+            uint32_t alphas[kPixels];  // of each pixel in both its halves
+            for (size_t i = 0; i < kPixels; ++i) {
+                const uint32_t word = WordsOf(from)[i];
+                alphas[i] = word >> 24 | (word >> 8 & 0x00FF0000);
+            }
+            const Halves* const a = HalvesOf(alphas);
+            uint16_t result[kHalves];
+            for (size_t i = 0; i < kHalves; ++i) {
+                const uint16_t weight = High(Product(a[i], constant));
+                const auto rest = static_cast<uint16_t>(256 - weight);
+                result[i] = static_cast<uint16_t>(
+                    JoinPer256(Product(Low(s[i]), weight), Product(High(s[i]), weight)) +
+                    JoinPer256(Product(Low(t[i]), rest), Product(High(t[i]), rest)));
+            }
+            Store(result, to);
+        });
+}
+
+[[gnu::always_inline]] inline void OverStep(const ARGB* from, ARGB* to) {
+    const Halves* const t = HalvesOf(to);
+    uint32_t rests[kPixels];  // of each pixel in both its halves
+    for (size_t i = 0; i < kPixels; ++i) {
+        const uint32_t word = WordsOf(from)[i];
+        rests[i] = 0x01000100 - (word >> 24 | (word >> 8 & 0x00FF0000));
     }
+    const Halves* const rest = HalvesOf(rests);
+    uint16_t under[kHalves];
+    for (size_t i = 0; i < kHalves; ++i) {
+        under[i] = JoinPer256(Product(Low(t[i]), rest[i]), Product(High(t[i]), rest[i]));
+    }
+    const Bytes *s = BytesOf(from), *u = BytesOf(under);
+    uint8_t result[kBytes];
+    for (size_t i = 0; i < kBytes; ++i) {
+        const auto sum = static_cast<uint8_t>(s[i] + u[i]);
+        result[i] = sum < s[i] ? 255 : sum;
+    }
+    Store(result, to);
+}
+
+/// Pixels that are looked at together.
+constexpr size_t kBlock = 4 * kPixels;
+
+/// How many pixels at the beginning, in whole blocks, are all zero.
+VXGUI_MULTIVERSION(size_t, ClearRun, (const ARGB* pixels, size_t count)) {
+    size_t run = 0;
+    for (; run + kBlock <= count; run += kBlock) {
+        uint32_t any = 0;
+        for (size_t i = 0; i < kBlock; ++i) any |= WordsOf(pixels + run)[i];
+        if (any != 0) break;
+    }
+    return run;
+}
+
+/// Copies as many pixels at the beginning, in whole blocks, as are all opaque.
+VXGUI_MULTIVERSION(size_t, CopyOpaqueRun, (const ARGB* source, ARGB* target, size_t count)) {
+    size_t run = 0;
+    for (; run + kBlock <= count; run += kBlock) {
+        uint32_t all = kAlpha;
+        for (size_t i = 0; i < kBlock; ++i) all &= WordsOf(source + run)[i];
+        if (all != kAlpha) break;
+        std::memcpy(static_cast<void*>(target + run), source + run, kBlock * sizeof(ARGB));
+    }
+    return run;
+}
+
+/// A pixel of zeroes leaves the target and an opaque one replaces it. Pictures have long runs of
+/// both: where a block has such a pixel at its ends and in the middle, it is worth a look at all.
+[[gnu::always_inline]] inline size_t SkipRun(const ARGB* source, ARGB* target, size_t count) {
+    if (count < kBlock) return 0;
+    const Words* const words = WordsOf(source);
+    const uint32_t first = words[0], middle = words[kBlock / 2], last = words[kBlock - 1];
+    if ((first | middle | last) == 0) [[unlikely]]
+        return ClearRun(source, count);
+    if ((first & middle & last) < kAlpha) [[likely]]
+        return 0;
+    return CopyOpaqueRun(source, target, count);
 }
 
 VXGUI_MULTIVERSION(void, PremultipliedLoop, (const ARGB* source, ARGB* target, size_t count)) {
-    for (size_t i = 0; i < count; ++i) {
-        const uint32_t s = Load(source[i]), t = Load(target[i]);
-        const uint32_t rest = 256 - Alpha(s);
-        Store(target[i], Join(Saturate(BlueRed(s) + Per256(BlueRed(t) * rest)),
-                              Saturate(GreenAlpha(s) + Per256(GreenAlpha(t) * rest))));
-    }
+    ForEachUnlessSkipped(source, target, count, OverStep, SkipRun);
 }
 
 }  // namespace
