@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "bench/theme/Scene.h"
 #include "tests/support/CountedAllocations.h"
 #include "vxgui/theme/ThemeItem.h"
 
@@ -30,6 +31,17 @@ TEST(DrawBackground, TheItemTakesNoMemoryWhateverItsTiling) {
     }
     EXPECT_GT(image->pieces, 100);
     EXPECT_EQ(glyph->pieces, 5);
+}
+
+TEST(DrawBackground, ARepaintOfAThousandItemsTakesNoNewMemory) {
+    const bench::Scene scene;
+    const bench::HostTarget target(bench::Scene::kWidth, bench::Scene::kHeight);
+    scene.Draw(target.dc);
+    const std::vector<uint32_t> once = target.words;
+    const int before = test::gAllocations;
+    scene.Draw(target.dc);
+    EXPECT_EQ(test::gAllocations - before, 0);
+    EXPECT_NE(target.words, once);  // translucent pixels over others: it did draw
 }
 
 }  // namespace

@@ -1,25 +1,9 @@
 #include "vxgui/base/String.h"
 
+#include "vxgui/base/CaseFolding.h"
 #include "vxgui/base/Utf.h"
 
 namespace vxgui {
-namespace {
-
-// Simple case folding of the letters that define files use: ASCII, Latin-1, Latin Extended-A,
-// Greek, Cyrillic (Unicode CaseFolding.txt, status C, the regular runs).
-char16_t FoldUnit(char16_t c) {
-    if (c >= u'A' && c <= u'Z') return c + 32;
-    if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
-    if (c >= 0x100 && c <= 0x12F) return c | 1;
-    if (c >= 0x14A && c <= 0x177) return c | 1;
-    if (c >= 0x391 && c <= 0x3AB && c != 0x3A2) return c + 32;
-    if (c >= 0x410 && c <= 0x42F) return c + 32;
-    if (c >= 0x400 && c <= 0x40F) return c + 80;
-    return c;
-}
-
-}  // namespace
-
 String::String(std::string_view utf8) : units_(Utf16FromUtf8(utf8)) {}
 
 String String::FromInt(int64_t value) { return std::to_string(value); }

@@ -1,6 +1,7 @@
 #include "vxgui/base/Utf.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace vxgui {
 namespace {
@@ -43,6 +44,17 @@ Decoded DecodeUtf8(std::string_view text) {
     return {code, length, true};
 }
 
+// How many bytes from the first on are ASCII: eight at a time, as nearly all text is.
+size_t AsciiLength(std::string_view text) {
+    size_t length = 0;
+    for (uint64_t bytes; length + sizeof bytes <= text.size(); length += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + length, sizeof bytes);
+        if (bytes & 0x8080808080808080u) break;
+    }
+    while (length < text.size() && static_cast<uint8_t>(text[length]) < 0x80) ++length;
+    return length;
+}
+
 void AppendUtf16(std::u16string& text, char32_t code) {
     if (code < 0x10000) {
         text += static_cast<char16_t>(code);
@@ -72,6 +84,10 @@ std::u16string Utf16FromUtf8(std::string_view utf8) {
     std::u16string text;
     text.reserve(utf8.size());
     while (!utf8.empty()) {
+        const size_t ascii = AsciiLength(utf8);
+        text.append(utf8.begin(), utf8.begin() + ascii);
+        utf8.remove_prefix(ascii);
+        if (utf8.empty()) break;
         const Decoded decoded = DecodeUtf8(utf8);
         AppendUtf16(text, decoded.code);
         utf8.remove_prefix(decoded.length);
@@ -95,7 +111,7 @@ std::string Utf8FromUtf16(std::u16string_view utf16) {
 }
 
 bool IsUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
+    while (bytes.remove_prefix(AsciiLength(bytes)), !bytes.empty()) {
         const Decoded decoded = DecodeUtf8(bytes);
         if (!decoded.good) return false;
         bytes.remove_prefix(decoded.length);

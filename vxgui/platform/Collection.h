@@ -1,9 +1,9 @@
 #pragma once
 
-#include <unordered_map>
 #include <vector>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/NameIndex.h"
 #include "vxgui/base/String.h"
 
 namespace vxgui::ole {
@@ -18,13 +18,13 @@ public:
 
     /// Adds at the end, under `key` if it isn't empty.
     void Add(T item, const String& key = {}) {
-        const String folded = key.Lower();
-        if (!folded.empty() && positions_.contains(folded)) {
+        if (!key.empty() && PlaceOf(key) != NameIndex::kNone) {
             throw Error(ErrorNumber::DuplicateKey, "Collection",
                         "This key is already associated with an element of this collection");
         }
-        if (!folded.empty()) positions_[folded] = entries_.size();
-        entries_.push_back({std::move(item), folded});
+        positions_.MakeRoom();
+        entries_.push_back({std::move(item), key.Lower()});
+        if (!key.empty()) positions_.Add(key.view(), entries_.size() - 1);
     }
 
     const T& Item(int32_t index) const { return entries_[Checked(index)].item; }
@@ -33,20 +33,23 @@ public:
     /// The key in small letters, as keys are compared; empty for an item without one.
     const String& Key(int32_t index) const { return entries_[Checked(index)].key; }
 
+    bool Contains(int32_t index) const { return index >= 1 && index <= Count(); }
+    bool Contains(const String& key) const { return PlaceOf(key) != NameIndex::kNone; }
+
     void Remove(int32_t index) { Erase(Checked(index)); }
     void Remove(const String& key) { Erase(Position(key)); }
     void Clear() {
         entries_.clear();
-        positions_.clear();
+        positions_.Clear();
     }
 
     /// The item under `key`, or a default one (none, for references) when there is none.
     T Find(const String& key) const {
-        const auto at = positions_.find(key.Lower());
-        return at == positions_.end() ? T() : entries_[at->second].item;
+        const size_t at = PlaceOf(key);
+        return at == NameIndex::kNone ? T() : entries_[at].item;
     }
     T Find(int32_t index) const {
-        return index >= 1 && index <= Count() ? entries_[static_cast<size_t>(index - 1)].item : T();
+        return Contains(index) ? entries_[static_cast<size_t>(index - 1)].item : T();
     }
 
 private:
@@ -56,28 +59,34 @@ private:
     };
 
     size_t Checked(int32_t index) const {
-        if (index < 1 || index > Count()) {
+        if (!Contains(index)) {
             throw Error(ErrorNumber::Subscript, "Collection", "Subscript out of range");
         }
         return static_cast<size_t>(index - 1);
     }
 
+    size_t PlaceOf(const String& key) const {
+        return positions_.Find(key.view(), [this](size_t at) { return entries_[at].key.view(); });
+    }
+
     size_t Position(const String& key) const {
-        const auto at = positions_.find(key.Lower());
-        if (at == positions_.end()) {
+        const size_t at = PlaceOf(key);
+        if (at == NameIndex::kNone) {
             throw Error(ErrorNumber::InvalidCall, "Collection", "Invalid procedure call or argument");
         }
-        return at->second;
+        return at;
     }
 
     void Erase(size_t position) {
-        if (!entries_[position].key.empty()) positions_.erase(entries_[position].key);
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
-        for (auto& [key, at] : positions_) at -= at > position ? 1 : 0;
+        positions_.Clear();
+        for (size_t at = 0; at < entries_.size(); ++at) {
+            if (!entries_[at].key.empty()) positions_.Add(entries_[at].key.view(), at);
+        }
     }
 
     std::vector<Entry> entries_;
-    std::unordered_map<String, size_t> positions_;
+    NameIndex positions_;
 };
 
 }  // namespace vxgui::ole

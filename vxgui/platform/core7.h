@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <span>
 
 #include "vxgui/base/Object.h"
 #include "vxgui/base/Ref.h"
@@ -45,9 +46,11 @@ VXPLATFORM_API Ref<SystemInformation> CreateSystemInformation();
 VXPLATFORM_API ByteArray Compress(const ByteArray& bytes);
 /// The size of the content; 0 for what is not compressed, or says more than the limit.
 VXPLATFORM_API size_t GetSize(const ByteArray& compressed);
+VXPLATFORM_API size_t GetSize(std::span<const uint8_t> compressed);
 /// The content; none for what is not compressed, is damaged, says more than the limit, or holds
 /// another amount than it says.
 VXPLATFORM_API std::optional<ByteArray> Decompress(const ByteArray& compressed);
+VXPLATFORM_API std::optional<ByteArray> Decompress(std::span<const uint8_t> compressed);
 /// What a frame may claim to hold in the calling apartment: a part of `ApartmentLimits`.
 inline size_t& ApartmentDecompressionLimit() { return ApartmentLimits().decompressedBytes; }
 

@@ -49,10 +49,7 @@ public:
     const String& KeyOf(int32_t index) const { return items_.Key(index); }
     template <class Index>
     void Remove(const Index& indexOrKey) {
-        try {
-            items_.Remove(indexOrKey);
-        } catch (const Error&) {
-        }
+        if (items_.Contains(indexOrKey)) items_.Remove(indexOrKey);
     }
     void Clear() { items_.Clear(); }
     Iterator begin() const { return {this, 1}; }

@@ -46,6 +46,10 @@ CompiledSkin CompiledSkinFrom(const ByteArray& file) {
     return WithinMemory(kSource, [&] { return ReadSkin(file); });
 }
 
+CompiledSkin CompiledSkinFrom(const ByteArray& file, const String& path) {
+    return WithPath(path, [&] { return CompiledSkinFrom(file); });
+}
+
 ByteArray BytesOfCompiledSkin(const CompiledSkin& skin) try {
     return compiled::WriteContainer(compiled::SkinWriter().Write(skin));
 } catch (const std::bad_alloc&) {

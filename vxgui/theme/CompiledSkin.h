@@ -23,6 +23,8 @@ VXGUI_API void SaveCompiledSkin(const CompiledSkin& skin, const String& path);
 /// they are read; what is empty or never set is not stored. `State` and the owner of an item, and
 /// the numbers that refer to the owner, are not kept.
 VXGUI_API CompiledSkin CompiledSkinFrom(const ByteArray& file);
+/// What it raises has `path`, where the bytes are from, as its source.
+VXGUI_LOCAL CompiledSkin CompiledSkinFrom(const ByteArray& file, const String& path);
 VXGUI_API ByteArray BytesOfCompiledSkin(const CompiledSkin& skin);
 
 /// Whether the first bytes are those of a compiled skin, of whatever version.

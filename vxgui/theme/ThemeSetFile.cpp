@@ -1,6 +1,8 @@
 #include "vxgui/theme/ThemeSetFile.h"
 
 #include "vxgui/base/OutOfMemory.h"
+#include "vxgui/platform/core7.h"
+#include "vxgui/platform/limits.h"
 #include "vxgui/theme/CompiledSkin.h"
 
 namespace vxgui {
@@ -22,10 +24,17 @@ core7::DefinePosition LastPlace(const core7::DefineFile& file, const ThemeSet& s
     return file.PositionOf(NumberedSection("Theme_", set.ThemeItems()->Count() + 1));
 }
 
+// The set of a compiled skin, which is read once; none for any other file.
+Ref<ThemeSet> CompiledSetOf(const String& path) {
+    ByteArray file;
+    const bool there = core7::ReadWholeFile(path, &file, ApartmentLimits().skinFileBytes);
+    return there && IsCompiledSkin(file) ? CompiledSkinFrom(file, path).set : nullptr;
+}
+
 }  // namespace
 
 Ref<ThemeSet> LoadThemeSetFile(const String& path) try {
-    if (IsCompiledSkinFile(path)) return LoadCompiledSkin(path).set;
+    if (const Ref<ThemeSet> compiled = CompiledSetOf(path)) return compiled;
     const Ref<core7::DefineFile> file = core7::CreateDefineFile();
     const bool opened = file->OpenFile(path);
     RaiseFirst(*file, path);

@@ -20,11 +20,18 @@ bool IsPlausible(uint64_t content, size_t frame) {
 }
 
 // What the frame says that it holds; none for what is no frame, does not say, or cannot be true.
-std::optional<size_t> ClaimedSize(const ByteArray& frame) {
+std::optional<size_t> ClaimedSize(std::span<const uint8_t> frame) {
     const uint64_t claimed = ZSTD_getFrameContentSize(frame.data(), frame.size());
     if (claimed == ZSTD_CONTENTSIZE_UNKNOWN || claimed == ZSTD_CONTENTSIZE_ERROR) return {};
     if (claimed > ApartmentDecompressionLimit() || !IsPlausible(claimed, frame.size())) return {};
     return static_cast<size_t>(claimed);
+}
+
+// One for each thread: its tables take longer to make than a small picture to decode.
+ZSTD_DCtx* Decoder() {
+    static thread_local const std::unique_ptr<ZSTD_DCtx, size_t (*)(ZSTD_DCtx*)> decoder(
+        ZSTD_createDCtx(), ZSTD_freeDCtx);
+    return decoder.get();
 }
 
 [[noreturn]] void RaiseOutOfMemory() {
@@ -46,14 +53,20 @@ ByteArray Compress(const ByteArray& bytes) {
     return frame;
 }
 
-size_t GetSize(const ByteArray& compressed) { return ClaimedSize(compressed).value_or(0); }
+size_t GetSize(const ByteArray& compressed) { return GetSize(std::span(compressed)); }
 
-std::optional<ByteArray> Decompress(const ByteArray& compressed) try {
+size_t GetSize(std::span<const uint8_t> compressed) { return ClaimedSize(compressed).value_or(0); }
+
+std::optional<ByteArray> Decompress(const ByteArray& compressed) {
+    return Decompress(std::span(compressed));
+}
+
+std::optional<ByteArray> Decompress(std::span<const uint8_t> compressed) try {
     const std::optional<size_t> claimed = ClaimedSize(compressed);
-    if (!claimed) return {};
+    if (!claimed || !Decoder()) return {};
     ByteArray bytes(*claimed);
-    const size_t size =
-        ZSTD_decompress(bytes.data(), bytes.size(), compressed.data(), compressed.size());
+    const size_t size = ZSTD_decompressDCtx(Decoder(), bytes.data(), bytes.size(),
+                                            compressed.data(), compressed.size());
     if (ZSTD_isError(size) || size != bytes.size()) return {};
     return bytes;
 } catch (const std::bad_alloc&) {

@@ -1,6 +1,5 @@
-#include <map>
-
 #include "vxgui/base/Error.h"
+#include "vxgui/base/NameIndex.h"
 #include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/limits.h"
 #include "vxgui/platform/ole.h"
@@ -23,38 +22,43 @@ Variant ToVariant(const BagValue& value) {
 
 }  // namespace
 
-// The entries in their order, and where the entry of each folded name stands.
+// The entries in their order, and where each name stands.
 struct PropertyBag::Store {
     std::vector<BagEntry> entries;
-    std::map<String, size_t> places;
+    NameIndex places;
+
+    size_t PlaceOf(const String& name) const {
+        return places.Find(name.view(), [this](size_t at) { return entries[at].name.view(); });
+    }
 
     const BagEntry* Find(const String& name) const {
-        const auto place = places.find(name.Lower());
-        return place == places.end() ? nullptr : &entries[place->second];
+        const size_t place = PlaceOf(name);
+        return place == NameIndex::kNone ? nullptr : &entries[place];
     }
 
     // False when the name is there already.
     bool Add(BagEntry entry) {
-        const bool isNew = places.try_emplace(entry.name.Lower(), entries.size()).second;
-        if (isNew) entries.push_back(std::move(entry));
-        return isNew;
+        if (PlaceOf(entry.name) != NameIndex::kNone) return false;
+        places.MakeRoom();
+        entries.push_back(std::move(entry));
+        places.Add(entries.back().name.view(), entries.size() - 1);
+        return true;
     }
 
     void Set(const String& name, BagValue value) {
-        if (const auto place = places.find(name.Lower()); place != places.end()) {
-            entries[place->second].value = std::move(value);
+        if (const size_t place = PlaceOf(name); place != NameIndex::kNone) {
+            entries[place].value = std::move(value);
         } else {
             Add({name, std::move(value)});
         }
     }
 
     void Remove(const String& name) {
-        const auto place = places.find(name.Lower());
-        if (place == places.end()) return;
-        const size_t removed = place->second;
-        places.erase(place);
-        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(removed));
-        for (auto& [folded, at] : places) at -= at > removed ? 1 : 0;
+        const size_t place = PlaceOf(name);
+        if (place == NameIndex::kNone) return;
+        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place));
+        places.Clear();
+        for (size_t at = 0; at < entries.size(); ++at) places.Add(entries[at].name.view(), at);
     }
 };
 
@@ -96,8 +100,8 @@ void PropertyBag::Contents(const ByteArray& bytes) try {
     if (bytes.size() > ApartmentLimits().bagBytes) RefuseBag("More bytes than the limit allows");
     if (!bytes.empty()) {
         for (BagEntry& entry : DecodeBag(bytes)) {
-            const String name = entry.name;
-            if (!store->Add(std::move(entry))) RefuseBag("The name \"" + name + "\" stands twice");
+            if (store->Find(entry.name)) RefuseBag("The name \"" + entry.name + "\" stands twice");
+            store->Add(std::move(entry));
         }
     }
     store_ = std::move(store);

@@ -118,8 +118,7 @@ void Container::ReadTable() {
 
 ByteArray Container::BytesOf(size_t index) const {
     const Entry& entry = entries_[index];
-    const auto begin = file_.begin() + static_cast<std::ptrdiff_t>(entry.offset);
-    const ByteArray stored(begin, begin + static_cast<std::ptrdiff_t>(entry.storedSize));
+    const auto stored = std::span(file_).subspan(entry.offset, entry.storedSize);
     // What the table says and what the section says of itself must agree before room is made.
     if (core7::GetSize(stored) != entry.size)
         RaiseDamaged("damaged: a section is not as large as the table says");

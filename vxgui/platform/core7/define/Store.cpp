@@ -1,34 +1,47 @@
 #include "vxgui/platform/core7/define/Store.h"
 
 namespace vxgui::core7 {
+namespace {
+
+template <class Named>
+size_t PlaceIn(const NameIndex& index, const std::vector<Named>& all, const String& name) {
+    return index.Find(name.view(), [&](size_t at) { return all[at].name.view(); });
+}
+
+template <class Named>
+const Named* FindIn(const NameIndex& index, const std::vector<Named>& all, const String& name) {
+    const size_t place = PlaceIn(index, all, name);
+    return place == NameIndex::kNone ? nullptr : &all[place];
+}
+
+}  // namespace
 
 void DefineStore::Enter(const String& name, DefinePosition position) {
-    const auto [place, isNew] = places_.try_emplace(name.Lower(), sections_.size());
-    current_ = place->second;
-    if (isNew) sections_.push_back({name, position, {}, {}});
+    current_ = PlaceIn(places_, sections_, name);
+    if (current_ == NameIndex::kNone) {
+        current_ = sections_.size();
+        sections_.push_back({name, position, {}, {}});
+        places_.Add(name.view(), current_);
+    }
     if (sections_[current_].position.line == 0) sections_[current_].position = position;
 }
 
 const DefineStore::Entry* DefineStore::Add(Entry entry) {
     if (sections_.empty()) Enter({}, {});
     Section& section = sections_[current_];
-    const auto [place, isNew] =
-        section.places.try_emplace(entry.name.Lower(), section.entries.size());
-    if (!isNew) return &section.entries[place->second];
+    if (const Entry* first = FindIn(section.places, section.entries, entry.name)) return first;
     section.entries.push_back(std::move(entry));
+    section.places.Add(section.entries.back().name.view(), section.entries.size() - 1);
     return nullptr;
 }
 
 const DefineStore::Section* DefineStore::Find(const String& section) const {
-    const auto place = places_.find(section.Lower());
-    return place == places_.end() ? nullptr : &sections_[place->second];
+    return FindIn(places_, sections_, section);
 }
 
 const DefineStore::Entry* DefineStore::Find(const String& section, const String& key) const {
     const Section* found = Find(section);
-    if (!found) return nullptr;
-    const auto place = found->places.find(key.Lower());
-    return place == found->places.end() ? nullptr : &found->entries[place->second];
+    return found ? FindIn(found->places, found->entries, key) : nullptr;
 }
 
 }  // namespace vxgui::core7

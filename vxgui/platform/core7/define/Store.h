@@ -1,8 +1,8 @@
 #pragma once
 
-#include <map>
 #include <vector>
 
+#include "vxgui/base/NameIndex.h"
 #include "vxgui/platform/core7.h"
 
 namespace vxgui::core7 {
@@ -19,7 +19,7 @@ public:
         String name;
         DefinePosition position;  ///< line 0 for the section before the first header
         std::vector<Entry> entries;
-        std::map<String, size_t> places;
+        NameIndex places;
     };
 
     /// The section of that name, made when there is none, becomes the one that `Add` adds to.
@@ -33,7 +33,7 @@ public:
 
 private:
     std::vector<Section> sections_;
-    std::map<String, size_t> places_;
+    NameIndex places_;
     size_t current_ = 0;
 };
 

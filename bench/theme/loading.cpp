@@ -1,0 +1,76 @@
+#include <zstd.h>
+
+#include "bench/Beside.h"
+#include "bench/theme/SetOnDisk.h"
+#include "vxgui/base/LittleEndian.h"
+#include "vxgui/platform/core7.h"
+
+namespace vxgui::bench {
+namespace {
+
+auto Ours(String SetOnDisk::* form) {
+    return [=] {
+        auto disk = std::make_shared<SetOnDisk>();
+        return [=] { benchmark::DoNotOptimize(LoadThemeSetFile((*disk).*form)); };
+    };
+}
+
+// The text parsed and each picture decoded, as often as it is named.
+auto DefineBytes() {
+    return [] {
+        auto disk = std::make_shared<SetOnDisk>();
+        return [=] {
+            const Ref<core7::DefineFile> file = core7::CreateDefineFile();
+            file->OpenFile(disk->define);
+            disk->ForEachPicture([](const String& path) {
+                const Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
+                surface->CreateFromPictureFile(path);
+            });
+        };
+    };
+}
+
+// What the frames of a compiled skin hold, into memory that is kept, with a decoder that is kept.
+class Uncompressed {
+public:
+    void Read(const String& path) {
+        core7::ReadWholeFile(path, &file_);
+        size_t at = kHeader + kEntry * LoadLittle<uint32_t>(file_.data() + kCountAt);
+        for (size_t to = 0; at < file_.size();) {
+            const size_t stored =
+                ZSTD_findFrameCompressedSize(file_.data() + at, file_.size() - at);
+            const auto size = static_cast<size_t>(
+                ZSTD_getFrameContentSize(file_.data() + at, stored));
+            bytes_.resize(std::max(bytes_.size(), to + size));
+            ZSTD_decompressDCtx(decoder_.get(), bytes_.data() + to, size, file_.data() + at,
+                                stored);
+            at += stored;
+            to += size;
+        }
+    }
+
+private:
+    static constexpr size_t kHeader = 20, kEntry = 12, kCountAt = 16;  // docs/formats.md
+    ByteArray file_, bytes_;
+    std::unique_ptr<ZSTD_DCtx, size_t (*)(ZSTD_DCtx*)> decoder_{ZSTD_createDCtx(), ZSTD_freeDCtx};
+};
+
+auto CompiledBytes() {
+    return [] {
+        auto disk = std::make_shared<SetOnDisk>();
+        auto bytes = std::make_shared<Uncompressed>();
+        return [=] { bytes->Read(disk->compiled); };
+    };
+}
+
+const bool kAdded = [] {
+    const std::string items = std::to_string(SetOnDisk::kItems);
+    Beside("load-define", items, "ours", Ours(&SetOnDisk::define));
+    Beside("load-define", items, "bytes-alone", DefineBytes());
+    Beside("load-compiled", items, "ours", Ours(&SetOnDisk::compiled));
+    Beside("load-compiled", items, "bytes-alone", CompiledBytes());
+    return true;
+}();
+
+}  // namespace
+}  // namespace vxgui::bench
