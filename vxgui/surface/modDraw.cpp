@@ -7,6 +7,7 @@
 #include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/pixels/Blend.h"
 #include "vxgui/pixels/Premultiply.h"
+#include "vxgui/platform/gdi_merge.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/ScratchBitmap.h"
@@ -59,11 +60,10 @@ void ReadSource(gdi::HDC scratch, const Blit& b, const Area& part) {
     }
 }
 
-/// Reads source and target into scratch bitmaps, has `merge(source, target, bytes)` work on
-/// their pixels, and writes the target out again. Drawing calls may be batched, so each scratch
-/// is flushed before its memory is touched.
-template <class Merge>
-void MergeThroughScratch(const Blit& b, Merge merge) {
+/// Reads source and target into scratch bitmaps, has `merger` work on their pixels, and writes
+/// the target out again. Drawing calls may be batched, so each scratch is flushed before its memory
+/// is touched.
+void MergeThroughScratch(const Blit& b, gdi::WordMerger& merger) {
     const Area part = VisiblePart(b);
     if (part.w < 1) return;
     const gdi::BITMAPINFO info = DibInfo(part.w, part.h);
@@ -82,12 +82,47 @@ void MergeThroughScratch(const Blit& b, Merge merge) {
     const ScopedSelection selected(scratch.get(), target.handle());
     gdi::BitBlt(scratch.get(), 0, 0, part.w, part.h, b.target, part.x, part.y, gdi::SRCCOPY);
     if (!source.bits() || !target.bits()) return;
-    merge(source.bits(), target.bits(), static_cast<int32_t>(info.bmiHeader.biSizeImage));
+    merger.Merge(static_cast<const uint32_t*>(source.bits()), static_cast<uint32_t*>(target.bits()),
+                 part.w * part.h);
     const auto width = static_cast<DWORD>(part.w);
     const auto height = static_cast<DWORD>(part.h);
     gdi::SetDIBitsToDevice(b.target, part.x, part.y, width, height, 0, 0, 0, height, target.bits(),
                            &info, gdi::DIB_RGB_COLORS);
 }
+
+/// In the target's own pixels where that gives the same, else by way of scratch bitmaps.
+void Merge(const Blit& b, gdi::WordMerger& merger) {
+    if (!gdi::MergeBlt(b.target, b.x, b.y, b.w, b.h, b.source, b.sx, b.sy, b.sw, b.sh, merger)) {
+        MergeThroughScratch(b, merger);
+    }
+}
+
+constexpr int32_t kBytesPerPixel = sizeof(ARGB);
+
+class Blender final : public gdi::WordMerger {
+public:
+    Blender(uint8_t alpha, bool hasAlpha) : alpha_(alpha), hasAlpha_(hasAlpha) {}
+
+    void Merge(const uint32_t* source, uint32_t* target, int32_t count) override {
+        AlphaDibBits(source, target, count * kBytesPerPixel, alpha_, hasAlpha_);
+    }
+
+private:
+    const uint8_t alpha_;
+    const bool hasAlpha_;
+};
+
+class KeyMerger final : public gdi::WordMerger {
+public:
+    explicit KeyMerger(int32_t key) : key_(key) {}
+
+    void Merge(const uint32_t* source, uint32_t* target, int32_t count) override {
+        HlpMergeTransparent(source, target, count * kBytesPerPixel, key_);
+    }
+
+private:
+    const int32_t key_;
+};
 
 }  // namespace
 
@@ -106,10 +141,10 @@ void PreMultiplyBits(void* bits, int32_t count) {
 void Vx_AlphaBlend(gdi::HDC hdcDst, int32_t x, int32_t y, int32_t w, int32_t h, gdi::HDC hdcSrc,
                    int32_t sx, int32_t sy, int32_t sw, int32_t sh, uint8_t alpha, bool hasAlpha) {
     ReportError.Guard("Public Function Vx_AlphaBlend", [&] {
-        MergeThroughScratch({hdcDst, x, y, w, h, hdcSrc, sx, sy, sw, sh},
-                            [=](const void* source, void* target, int32_t count) {
-                                AlphaDibBits(source, target, count, alpha, hasAlpha);
-                            });
+        Blender blender(alpha, hasAlpha);
+        const Blit blit{hdcDst, x, y, w, h, hdcSrc, sx, sy, sw, sh};
+        // An alpha of 0 changes nothing, and the target is written out all the same.
+        alpha > 0 ? Merge(blit, blender) : MergeThroughScratch(blit, blender);
     });
 }
 
@@ -117,10 +152,10 @@ void Vex_TransparentBlt(gdi::HDC hdcDst, int32_t x, int32_t y, int32_t w, int32_
                         gdi::HDC hdcSrc, int32_t sx, int32_t sy, int32_t sw, int32_t sh,
                         int32_t key) {
     ReportError.Guard("Public Function Vex_TransparentBlt", [&] {
-        MergeThroughScratch({hdcDst, x, y, w, h, hdcSrc, sx, sy, sw, sh},
-                            [=](const void* source, void* target, int32_t count) {
-                                HlpMergeTransparent(source, target, count, key);
-                            });
+        KeyMerger merger(key);
+        const Blit blit{hdcDst, x, y, w, h, hdcSrc, sx, sy, sw, sh};
+        // Binding may fail with a message: that is for one call, not for one a row.
+        HlpMergeTransparent.IsBound() ? Merge(blit, merger) : MergeThroughScratch(blit, merger);
     });
 }
 

@@ -42,6 +42,19 @@ TEST(BlitAxis, ANegativeExtentRunsDownFromItsStartTheStartIncluded) {
     EXPECT_EQ(Shown(both), (Sources{7, 8, 9}));
 }
 
+TEST(BlitAxis, TheTableHoldsWhatEachCoordinateShows) {
+    for (int extent = -30; extent <= 30; ++extent) {
+        for (int source = -30; source <= 30; ++source) {
+            BlitAxis axis(3, extent, 5, source);
+            axis.Cut(-11, 17);
+            std::vector<int32_t> table(static_cast<size_t>(axis.High() - axis.Low()));
+            if (axis.Empty()) continue;
+            axis.Tabulate(table.data());
+            ASSERT_EQ(Sources(table.begin(), table.end()), Shown(axis)) << extent << " " << source;
+        }
+    }
+}
+
 TEST(BlitAxis, AZeroExtentIsEmpty) {
     EXPECT_TRUE(BlitAxis(0, 0, 0, 4).Empty());
     EXPECT_TRUE(BlitAxis(0, 4, 0, 0).Empty());

@@ -25,6 +25,16 @@ TEST(PixelBlocks, ABlockThatWasGivenBackServesAgainAndIsZeroed) {
     GivePixelsBack(block);
 }
 
+TEST(PixelBlocks, BlocksBeginAtLinesOfTheCache) {
+    for (const size_t size : {1u, 100u, 5000u, 300000u}) {
+        const PixelBlock cleared = TakePixels(size), raw = TakeRawPixels(size);
+        EXPECT_EQ(reinterpret_cast<uintptr_t>(cleared.bits) % 64, 0u) << size;
+        EXPECT_EQ(reinterpret_cast<uintptr_t>(raw.bits) % 64, 0u) << size;
+        GivePixelsBack(cleared);
+        GivePixelsBack(raw);
+    }
+}
+
 TEST(PixelBlocks, NoneForNothingAndForTheAbsurd) {
     EXPECT_EQ(TakePixels(0).bits, nullptr);
     EXPECT_EQ(TakePixels(ApartmentLimits().bitmapBytes + 1).bits, nullptr);

@@ -4,6 +4,7 @@
 #include "vxgui/platform/gdi/PixelConverter.h"
 #include "vxgui/platform/gdi/PixelRows.h"
 #include "vxgui/platform/gdi/Spans.h"
+#include "vxgui/platform/gdi/WordRuns.h"
 
 namespace vxgui::gdi {
 
@@ -19,6 +20,9 @@ bool ArgbBlit(const DeviceContext& dc, const PixelTarget& source, const MonoColo
     const PixelTarget target = dc.Target();
     BlitReader reader(source, geometry);
     if (!reader.Prepare(target)) return false;
+    if (source.depth == 32 && target.depth == 32) {
+        return ForEachWordRun(dc, reader, geometry.Area(), mix);
+    }
     PixelTarget argb;
     argb.depth = 32;
     PixelConverter fromSource(source, argb, mono);

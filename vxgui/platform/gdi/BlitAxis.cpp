@@ -28,6 +28,25 @@ int64_t BlitAxis::Source(int64_t at) const {
     return sourceStart_ + j * sourceStep_;
 }
 
+// The quotient of `Source` without its division: from one to the next the dividend grows by the
+// same. A mirrored axis is filled from its end.
+void BlitAxis::Tabulate(int32_t* sources) const {
+    const int64_t count = high_ - low_, divisor = 2 * extent_, growth = 2 * sourceExtent_;
+    const int64_t first = ((step_ > 0 ? low_ : high_ - 1) - start_) * step_;
+    const int64_t dividend = (2 * first + 1) * sourceExtent_ - 1;
+    int64_t quotient = dividend / divisor, rest = dividend % divisor;
+    int32_t* place = step_ > 0 ? sources : sources + count - 1;
+    for (int64_t i = 0; i < count; ++i, place += step_) {
+        *place = static_cast<int32_t>(sourceStart_ + quotient * sourceStep_);
+        quotient += growth / divisor;
+        rest += growth % divisor;
+        if (rest >= divisor) {
+            rest -= divisor;
+            ++quotient;
+        }
+    }
+}
+
 void BlitAxis::Cut(int64_t low, int64_t high) {
     low_ = std::max(low_, low);
     high_ = std::max(low_, std::min(high_, high));

@@ -24,6 +24,9 @@ public:
     /// the nearest one, the lower of two.
     int64_t Source(int64_t at) const;
 
+    /// `Source` of all from `Low` on, as many as there are to `High`.
+    void Tabulate(int32_t* sources) const;
+
     /// Cuts what is written to [low, high).
     void Cut(int64_t low, int64_t high);
     /// Cuts it to what shows a source coordinate from 0 to `size` - 1, at the same scale.

@@ -44,7 +44,7 @@ bool BlitReader::Prepare(const PixelTarget& target) {
     const bool apart = !ShareMemory(source_, target) ||
                        (SamePixels(source_, target) &&
                         IsEmpty(Intersection(geometry_.SourceArea(), geometry_.Area())));
-    return (apart || Detach()) && (geometry_.across.Plain() || TabulateColumns());
+    return (apart || Detach()) && (geometry_.Plain() || Tabulate());
 }
 
 // Copies the source pixels that are shown. Columns start at a whole byte.
@@ -67,25 +67,29 @@ bool BlitReader::Detach() {
     return true;
 }
 
-bool BlitReader::TabulateColumns() {
-    const BlitAxis& across = geometry_.across;
-    const auto count = static_cast<size_t>(across.High() - across.Low());
-    auto* columns = table_.Take<int32_t>(count);
-    if (!columns) return false;
-    for (size_t i = 0; i < count; ++i) {
-        columns[i] = static_cast<int32_t>(across.Source(across.Low() + static_cast<int64_t>(i)));
+bool BlitReader::Tabulate() {
+    const BlitAxis &across = geometry_.across, &down = geometry_.down;
+    const auto width = static_cast<size_t>(across.High() - across.Low());
+    const auto height = static_cast<size_t>(down.High() - down.Low());
+    auto* table = table_.Take<int32_t>(width + height);
+    if (!table) return false;
+    if (!across.Plain()) {
+        across.Tabulate(table);
+        columns_ = table;
     }
-    columns_ = columns;
+    if (!down.Plain()) {
+        down.Tabulate(table + width);
+        rows_ = table + width;
+    }
     return true;
 }
 
 const uint8_t* BlitReader::Address(int32_t x, int32_t y) const {
-    const auto row = static_cast<int32_t>(geometry_.down.Source(y));
-    return source_.Row(row) + geometry_.across.Source(x) * (source_.depth / 8);
+    return source_.Row(Row(y)) + geometry_.across.Source(x) * (source_.depth / 8);
 }
 
 void BlitReader::Read(int32_t x, int32_t y, int32_t count, uint32_t* words) const {
-    const auto row = static_cast<int32_t>(geometry_.down.Source(y));
+    const int32_t row = Row(y);
     if (columns_) {
         LoadColumns(source_, columns_ + (x - geometry_.across.Low()), row, count, words);
     } else {

@@ -10,7 +10,7 @@ class PixelSource {
 public:
     virtual ~PixelSource();
 
-    /// Null when there is none to be had.
+    /// Null when there is none to be had. The heap's begin at multiples of 64.
     virtual uint8_t* Take(size_t size, bool cleared);
     virtual void GiveBack(uint8_t* bits);
     /// Whether a block may serve again for what is smaller.

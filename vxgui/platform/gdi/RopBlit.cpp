@@ -8,6 +8,7 @@
 #include "vxgui/platform/gdi/PixelRows.h"
 #include "vxgui/platform/gdi/Record.h"
 #include "vxgui/platform/gdi/Spans.h"
+#include "vxgui/platform/gdi/WordRuns.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -87,21 +88,25 @@ bool IsWordCopy(const PixelTarget& target, const PixelTarget& source, const Rop3
 }
 
 // Whole rows from one 32-bit bitmap to another; a row that is repeated is found once.
+void CopyScaledWords(const PixelTarget& target, const BlitReader& reader, const RECT& part) {
+    const int32_t count = part.right - part.left;
+    for (int32_t y = part.top; y < part.bottom; ++y) {
+        uint32_t* row = target.Row32(y) + part.left;
+        if (y > part.top && reader.SameRow(y, y - 1)) {
+            std::memcpy(row, target.Row32(y - 1) + part.left, static_cast<size_t>(count) * 4);
+        } else {
+            reader.Read(part.left, y, count, row);
+        }
+    }
+}
+
 void CopyWords(const DeviceContext& dc, const BlitReader& reader, const RECT& area) {
     const PixelTarget target = dc.Target();
     ForEachClipRect(dc, area, [&](const RECT& part) {
-        const int32_t count = part.right - part.left;
-        const auto bytes = static_cast<size_t>(count) * 4;
-        for (int32_t y = part.top; y < part.bottom; ++y) {
-            uint32_t* row = target.Row32(y) + part.left;
-            if (y > part.top && reader.SameRow(y, y - 1)) {
-                std::memcpy(row, target.Row32(y - 1) + part.left, bytes);
-            } else if (reader.Plain()) {
-                std::memcpy(row, reader.Address(part.left, y), bytes);
-            } else {
-                reader.Read(part.left, y, count, row);
-            }
-        }
+        if (!reader.Plain()) return CopyScaledWords(target, reader, part);
+        ForEachPlainRun(target, reader, part, [](const uint32_t* s, uint32_t* t, int32_t count) {
+            std::memcpy(t, s, static_cast<size_t>(count) * 4);
+        });
     });
 }
 

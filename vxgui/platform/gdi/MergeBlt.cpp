@@ -1,0 +1,35 @@
+#include "vxgui/platform/gdi/WordRuns.h"
+#include "vxgui/platform/gdi_merge.h"
+
+namespace vxgui::gdi {
+namespace {
+
+bool SameArea(const RECT& a, const RECT& b) {
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+}  // namespace
+
+bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle, int sourceX,
+              int sourceY, int sourceWidth, int sourceHeight, WordMerger& merger) {
+    const GdiRef<DeviceContext> dc = FindContext(handle);
+    const GdiRef<DeviceContext> from = FindContext(sourceHandle);
+    if (!dc || !from || sourceWidth == 0 || sourceHeight == 0) return false;
+    if (width < 1 || height < 1) return true;
+    const PixelTarget source = from->Target(), target = dc->Target();
+    if (source.depth != 32 || target.depth != 32 || ShareMemory(source, target)) return false;
+
+    BlitGeometry geometry{{x, width, sourceX, sourceWidth}, {y, height, sourceY, sourceHeight}};
+    geometry.CutToTarget(*dc);
+    if (geometry.Empty()) return true;
+    const RECT area = geometry.Area();
+    geometry.CutToSource(source);
+    if (geometry.Empty() || !SameArea(geometry.Area(), area)) return false;
+    BlitReader reader(source, geometry);
+    return reader.Prepare(target) &&
+           ForEachWordRun(*dc, reader, area, [&](const uint32_t* s, uint32_t* t, int32_t count) {
+               merger.Merge(s, t, count);
+           });
+}
+
+}  // namespace vxgui::gdi
