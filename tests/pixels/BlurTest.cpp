@@ -109,6 +109,41 @@ TEST(Blur, AgreesWithTheWeightedSumsAtEverySize) {
     }
 }
 
+TEST(Blur, ColumnsThatAreFilteredInGroupsReachIntoEachOther) {
+    for (int32_t radius = 1; radius <= 9; ++radius) {
+        const Picture before = Noise(300, 7, static_cast<uint32_t>(radius));
+        Picture picture = before;
+        picture.Blur(GaussianKernel(radius), GaussianKernel(1));
+        ASSERT_EQ(picture.pixels,
+                  Reference(before, GaussianKernel(radius), GaussianKernel(1)).pixels)
+            << "radius " << radius;
+    }
+}
+
+TEST(Blur, EveryKernelRoundsAsItsWeightsSay) {
+    for (int32_t a = 1; a <= 8; ++a) {
+        for (int32_t b = 1; b <= 8; ++b) {
+            const BoxKernel kernel{{a, b, (a + b) % 2 ? 2 : 1}};
+            const Picture before = Noise(61, 37, static_cast<uint32_t>(a * 8 + b));
+            Picture picture = before;
+            picture.Blur(kernel, kernel);
+            ASSERT_EQ(picture.pixels, Reference(before, kernel, kernel).pixels) << a << ", " << b;
+        }
+    }
+}
+
+TEST(Blur, APictureWithoutColoursHasItsAlphaBlurredAsAnyOther) {
+    for (int32_t radius : {1, 4, 8, 9, 30, 70, 300}) {
+        Picture before = Noise(150, 90, static_cast<uint32_t>(radius));
+        for (ARGB& pixel : before.pixels) pixel = {0, 0, 0, pixel.Alpha};
+        Picture picture = before;
+        picture.Blur(GaussianKernel(radius), GaussianKernel(radius));
+        ASSERT_EQ(picture.pixels,
+                  Reference(before, GaussianKernel(radius), GaussianKernel(radius)).pixels)
+            << "radius " << radius;
+    }
+}
+
 TEST(Blur, MeanOfEvenAndOddWidthsAgreesWithTheWeightedSums) {
     for (int32_t extent : {1, 2, 3, 4, 5, 8, 31, 64, 999}) {
         const Picture before = Noise(40, 20, static_cast<uint32_t>(extent));

@@ -2,63 +2,15 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <vector>
 
 #include "vxgui/pixels/BoxFilter.h"
+#include "vxgui/pixels/RowFilter.h"
 
 namespace vxgui {
 
 namespace {
-
-constexpr size_t kChannels = sizeof(ARGB);
-constexpr size_t kStripLines = kStripLanes / kChannels;
-
-/// A copy of a part of a picture with 16 bits a channel: the byte, and 8 bits below it.
-class WidePicture {
-public:
-    using Pixel = std::array<uint16_t, kChannels>;
-
-    WidePicture(size_t width, size_t height) : width_(width), pixels_(width * height) {}
-
-    Pixel* Row(size_t y) { return pixels_.data() + y * width_; }
-
-    /// Filters `lines` lines of `length` pixels; the strides say how far the next pixel of a
-    /// line and the next line are.
-    void Filter(const BoxKernel& kernel, size_t length, size_t stride, size_t lines,
-                size_t lineStride);
-
-private:
-    size_t width_;
-    std::vector<Pixel> pixels_;
-};
-
-void WidePicture::Filter(const BoxKernel& kernel, size_t length, size_t stride, size_t lines,
-                         size_t lineStride) {
-    if (kernel.IsIdentity()) return;
-    std::vector<StripRow> samples(length), results(length);
-    for (size_t begin = 0; begin < lines; begin += kStripLines) {
-        const size_t count = std::min(kStripLines, lines - begin);
-        // Calls with each pixel of these lines and its place in a strip.
-        const auto visit = [&](std::vector<StripRow>& strip, auto copy) {
-            for (size_t i = 0; i < length; ++i) {
-                Pixel* const pixels = pixels_.data() + begin * lineStride + i * stride;
-                for (size_t line = 0; line < count; ++line) {
-                    copy(pixels + line * lineStride, &strip[i][line * kChannels]);
-                }
-            }
-        };
-        visit(samples, [](const Pixel* pixel, uint16_t* lanes) {
-            std::memcpy(lanes, pixel, sizeof *pixel);
-        });
-        FilterStrip(samples, results, kernel);
-        visit(results, [](Pixel* pixel, const uint16_t* lanes) {
-            std::memcpy(pixel, lanes, sizeof *pixel);
-        });
-    }
-}
-
-uint16_t Widened(uint8_t channel) { return static_cast<uint16_t>(channel * 256); }
-uint8_t Narrowed(uint16_t channel) { return static_cast<uint8_t>((channel + 128) / 256); }
 
 /// Positions from `begin` up to, not including, `end`.
 struct Range {
@@ -72,6 +24,160 @@ Range Reached(int64_t first, int64_t last, const BoxKernel& kernel, int64_t size
             std::min<int64_t>(last + kernel.Reach() + 1, size)};
 }
 
+/// A part of a picture: rows that are `stride` pixels apart.
+struct Part {
+    ARGB* pixels;
+    size_t width, height, stride;
+
+    ARGB* Row(size_t y) const { return pixels + y * stride; }
+};
+
+/// What the kernels reach, and where the part that is blurred begins in it.
+struct Reach {
+    Part source, target;
+    size_t left, top;
+};
+
+/// The blur of all channels of each pixel, or of the alpha alone.
+template <size_t Channels>
+class PartBlur {
+public:
+    PartBlur(const Reach& reach, const BoxKernel& horizontal, const BoxKernel& vertical)
+        : reach_(reach),
+          source_(reach.source),
+          horizontal_(horizontal),
+          vertical_(vertical),
+          pitch_(source_.height | 1),
+          results_(source_.height) {}
+
+    void Run() {
+        if (auto filter = RowFilter::Of(horizontal_, source_.width, Channels == 1)) {
+            ByRows(*filter);
+        } else {
+            ByStrips();
+        }
+    }
+
+private:
+    static constexpr size_t kPixels = kStripLanes / Channels;  ///< in a row of a strip
+    static constexpr size_t kFirst = Channels == 1 ? offsetof(ARGB, Alpha) : 0;
+
+    /// Columns as wide as a strip, with 16 bits a channel. A column's rows lie one below the other;
+    /// their number is odd, so that those beside each other don't share a place in the cache.
+    using Columns = std::vector<WordRow>;
+
+    static uint8_t* Bytes(ARGB* pixel) { return reinterpret_cast<uint8_t*>(pixel) + kFirst; }
+    size_t ColumnCount() const { return (source_.width + kPixels - 1) / kPixels; }
+
+    void ByRows(RowFilter& filter);
+    void ByStrips();
+    void Pack(size_t top, size_t lines, ByteRow* strip) const;
+    void Unpack(const WordRow* strip, size_t top, size_t lines, Columns& columns) const;
+    void Vertically(const WordRow* column, size_t number);
+    void Store(const uint8_t* from, ARGB* to, size_t count) const;
+
+    const Reach reach_;
+    const Part source_;
+    const BoxKernel horizontal_, vertical_;
+    const size_t pitch_;
+    std::vector<ByteRow> results_;
+};
+
+// Some columns at a time, so that they stay in the cache. The next ones are read before the last
+// ones are written, as each reaches into its neighbour.
+template <size_t Channels>
+void PartBlur<Channels>::ByRows(RowFilter& filter) {
+    constexpr size_t kCachedRows = 2048;
+    const size_t group = std::clamp<size_t>(kCachedRows / pitch_, 1, 8), count = ColumnCount();
+    Columns last(group * pitch_), next(group * pitch_);
+    for (size_t first = 0; first < count + group; first += group) {
+        for (size_t y = 0; first < count && y < source_.height; ++y) {
+            filter.Filter(source_.Row(y), first * kStripLanes, std::min(group, count - first),
+                          &next[y], pitch_);
+        }
+        for (size_t i = 0; first > 0 && i < group && first - group + i < count; ++i) {
+            Vertically(&last[i * pitch_], first - group + i);
+        }
+        std::swap(last, next);
+    }
+}
+
+template <size_t Channels>
+void PartBlur<Channels>::ByStrips() {
+    Columns columns(ColumnCount() * pitch_);
+    std::vector<ByteRow> samples(source_.width);
+    std::vector<WordRow> means(ColumnCount() * kPixels);
+    for (size_t top = 0; top < source_.height; top += kPixels) {
+        const size_t lines = std::min(kPixels, source_.height - top);
+        Pack(top, lines, samples.data());
+        FilterBytes(samples, std::span(means).first(source_.width), horizontal_);
+        Unpack(means.data(), top, lines, columns);
+    }
+    for (size_t i = 0; i < ColumnCount(); ++i) Vertically(&columns[i * pitch_], i);
+}
+
+// Both copy squares, so that neither side leaves the cache between two lines.
+template <size_t Channels>
+void PartBlur<Channels>::Pack(size_t top, size_t lines, ByteRow* strip) const {
+    for (size_t left = 0; left < source_.width; left += kPixels) {
+        const size_t count = std::min(kPixels, source_.width - left);
+        for (size_t line = 0; line < lines; ++line) {
+            ARGB* const pixels = source_.Row(top + line) + left;
+            for (size_t x = 0; x < count; ++x) {
+                std::memcpy(&strip[left + x][line * Channels], Bytes(pixels + x), Channels);
+            }
+        }
+    }
+}
+
+template <size_t Channels>
+void PartBlur<Channels>::Unpack(const WordRow* strip, size_t top, size_t lines,
+                                Columns& columns) const {
+    for (size_t column = 0; column < ColumnCount(); ++column, strip += kPixels) {
+        WordRow* const rows = &columns[column * pitch_ + top];
+        for (size_t line = 0; line < lines; ++line) {
+            for (size_t x = 0; x < kPixels; ++x) {
+                std::memcpy(&rows[line][x * Channels], &strip[x][line * Channels],
+                            Channels * sizeof(uint16_t));
+            }
+        }
+    }
+}
+
+template <size_t Channels>
+void PartBlur<Channels>::Vertically(const WordRow* column, size_t number) {
+    const Part& target = reach_.target;
+    const size_t from = number * kPixels, right = reach_.left + target.width;
+    if (from + kPixels <= reach_.left || from >= right) return;
+    FilterWords({column, source_.height}, results_, vertical_);
+    const size_t begin = std::max(from, reach_.left), end = std::min(from + kPixels, right);
+    for (size_t y = 0; y < target.height; ++y) {
+        Store(&results_[reach_.top + y][(begin - from) * Channels],
+              target.Row(y) + (begin - reach_.left), end - begin);
+    }
+}
+
+template <size_t Channels>
+void PartBlur<Channels>::Store(const uint8_t* from, ARGB* to, size_t count) const {
+    if (Channels > 1 && count == kPixels) {
+        std::memcpy(static_cast<void*>(to), from, kStripLanes);
+        return;
+    }
+    for (size_t x = 0; x < count; ++x) std::memcpy(Bytes(to + x), from + x * Channels, Channels);
+}
+
+/// Whether the colours are 0 throughout, as those of a black shadow: they stay so.
+bool IsBlack(const Part& part) {
+    for (size_t y = 0; y < part.height; ++y) {
+        const ARGB* const row = part.Row(y);
+        if (std::any_of(row, row + part.width,
+                        [](ARGB pixel) { return pixel.Blue | pixel.Green | pixel.Red; })) {
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 void Blur(std::span<ARGB> pixels, int32_t width, const PixelBox& rectangle,
@@ -83,24 +189,17 @@ void Blur(std::span<ARGB> pixels, int32_t width, const PixelBox& rectangle,
 
     const Range columns = Reached(left, right, horizontal, width);
     const Range rows = Reached(top, bottom, vertical, height);
-    WidePicture wide(columns.Size(), rows.Size());
-    const auto row = [&](int64_t y) { return pixels.data() + y * width; };
-    for (int64_t y = rows.begin; y < rows.end; ++y) {
-        std::transform(row(y) + columns.begin, row(y) + columns.end,
-                       wide.Row(static_cast<size_t>(y - rows.begin)), [](ARGB pixel) {
-                           return WidePicture::Pixel{Widened(pixel.Blue), Widened(pixel.Green),
-                                                     Widened(pixel.Red), Widened(pixel.Alpha)};
-                       });
-    }
-    wide.Filter(horizontal, columns.Size(), 1, rows.Size(), columns.Size());
-    wide.Filter(vertical, rows.Size(), columns.Size(), columns.Size(), 1);
-    for (int64_t y = top; y <= bottom; ++y) {
-        const auto* source = wide.Row(static_cast<size_t>(y - rows.begin)) + (left - columns.begin);
-        std::transform(source, source + (right - left + 1), row(y) + left,
-                       [](const WidePicture::Pixel& pixel) {
-                           return ARGB{Narrowed(pixel[0]), Narrowed(pixel[1]), Narrowed(pixel[2]),
-                                       Narrowed(pixel[3])};
-                       });
+    const auto part = [&](const Range& across, const Range& down) {
+        return Part{pixels.data() + down.begin * width + across.begin, across.Size(), down.Size(),
+                    static_cast<size_t>(width)};
+    };
+    const Reach reach{
+        part(columns, rows), part({left, int64_t{right} + 1}, {top, int64_t{bottom} + 1}),
+        static_cast<size_t>(left - columns.begin), static_cast<size_t>(top - rows.begin)};
+    if (IsBlack(reach.source)) {
+        PartBlur<1>(reach, horizontal, vertical).Run();
+    } else {
+        PartBlur<sizeof(ARGB)>(reach, horizontal, vertical).Run();
     }
 }
 

@@ -1,12 +1,16 @@
 #include "vxgui/pixels/BoxFilter.h"
 
-#include <type_traits>
+#include <algorithm>
+#include <vector>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/SlidingBoxes.h"
 
 namespace vxgui {
 
 namespace {
+
+using Sum = uint64_t;
 
 /// The kernel is (1 - z^a)(1 - z^b)(1 - z^c) summed three times over: so each result differs from
 /// the one before, in the third order, by the eight samples at the sums of the widths.
@@ -21,10 +25,9 @@ struct Offsets {
 };
 
 /// The sums of all lanes. They wrap, which the last of them outlives: the sum of a kernel's full
-/// width fits `Sum` and is exact.
-template <class Sum>
+/// width fits and is exact.
 struct Sums {
-    std::array<Sum, kStripLanes> first{}, second{}, third{};
+    StripRow<Sum> first{}, second{}, third{};
 };
 
 /// Rounds sum / norm, halves up: the sum is an integer, so half of the least step more keeps the
@@ -40,46 +43,26 @@ struct Taps {
 };
 
 /// Two loops, since not every instruction set can do the second in vectors of 64 bits.
-template <class Sum>
-[[gnu::always_inline]] inline void StepLoop(const Taps& taps, Sums<Sum>& sums, const Scale& scale,
-                                            uint16_t* result) {
-    using Signed = std::make_signed_t<Sum>;
+VXGUI_MULTIVERSION(void, Step,
+                   (const Taps& taps, Sums& sums, const Scale& scale,
+                    uint16_t* __restrict result)) {
     const auto& [p, q, r, s] = taps.added;
     const auto& [t, u, v, w] = taps.removed;
     for (size_t i = 0; i < kStripLanes; ++i) {
         const int32_t change = p[i] + q[i] + r[i] + s[i] - t[i] - u[i] - v[i] - w[i];
-        sums.first[i] += static_cast<Sum>(Signed{change});
+        sums.first[i] += static_cast<Sum>(int64_t{change});
         sums.second[i] += sums.first[i];
         sums.third[i] += sums.second[i];
     }
     for (size_t i = 0; i < kStripLanes; ++i) {
-        const auto sum = static_cast<double>(static_cast<Signed>(sums.third[i]));
+        const auto sum = static_cast<double>(static_cast<int64_t>(sums.third[i]));
         result[i] = static_cast<uint16_t>(static_cast<int32_t>((sum + scale.bias) * scale.factor));
     }
 }
 
-VXGUI_MULTIVERSION(void, NarrowStep,
-                   (const Taps& taps, Sums<uint32_t>& sums, const Scale& scale,
-                    uint16_t* __restrict result)) {
-    StepLoop(taps, sums, scale, result);
-}
-VXGUI_MULTIVERSION(void, WideStep,
-                   (const Taps& taps, Sums<uint64_t>& sums, const Scale& scale,
-                    uint16_t* __restrict result)) {
-    StepLoop(taps, sums, scale, result);
-}
-
-void Step(const Taps& taps, Sums<uint32_t>& sums, const Scale& scale, uint16_t* result) {
-    NarrowStep(taps, sums, scale, result);
-}
-void Step(const Taps& taps, Sums<uint64_t>& sums, const Scale& scale, uint16_t* result) {
-    WideStep(taps, sums, scale, result);
-}
-
 /// Adds what the steps before the first position would have left of the sample that a tap takes
 /// in at step -`ago`, for each of the taps.
-template <class Sum>
-void WarmUp(const StripRow& row, int64_t position, const Offsets& offsets, Sums<Sum>& sums) {
+void WarmUp(const WordRow& row, int64_t position, const Offsets& offsets, Sums& sums) {
     uint64_t first = 0, second = 0, third = 0;
     const auto count = [&](int64_t offset, uint64_t sign) {
         const int64_t ago = offset - position;
@@ -91,20 +74,20 @@ void WarmUp(const StripRow& row, int64_t position, const Offsets& offsets, Sums<
     for (int64_t offset : offsets.added) count(offset, 1);
     for (int64_t offset : offsets.removed) count(offset, ~uint64_t{0});
     for (size_t i = 0; i < kStripLanes; ++i) {
-        sums.first[i] += static_cast<Sum>(first * row[i]);
-        sums.second[i] += static_cast<Sum>(second * row[i]);
-        sums.third[i] += static_cast<Sum>(third * row[i]);
+        sums.first[i] += first * row[i];
+        sums.second[i] += second * row[i];
+        sums.third[i] += third * row[i];
     }
 }
 
-template <class Sum>
-void Filter(std::span<const StripRow> samples, std::span<StripRow> results,
-            const BoxKernel& kernel) {
-    static constexpr StripRow kOutside{};
+/// Serves any kernel: the eight samples of a step may lie anywhere.
+void FilterAny(std::span<const WordRow> samples, std::span<WordRow> results,
+               const BoxKernel& kernel) {
+    static constexpr WordRow kOutside{};
     const auto size = static_cast<int64_t>(samples.size());
     const Offsets offsets(kernel);
     const Scale scale(kernel.Norm());
-    Sums<Sum> sums;
+    Sums sums;
     for (int64_t i = 0; i < std::min(size, kernel.Reach()); ++i) {
         WarmUp(samples[i], i, offsets, sums);
     }
@@ -123,13 +106,30 @@ void Filter(std::span<const StripRow> samples, std::span<StripRow> results,
 
 }  // namespace
 
-void FilterStrip(std::span<const StripRow> samples, std::span<StripRow> results,
+void FilterBytes(std::span<const ByteRow> samples, std::span<WordRow> results,
                  const BoxKernel& kernel) {
-    // In vector code 32-bit sums go twice as fast; those of the blurs in daily use fit.
-    if (kernel.Norm() * UINT16_MAX < INT32_MAX) {
-        Filter<uint32_t>(samples, results, kernel);
-    } else {
-        Filter<uint64_t>(samples, results, kernel);
+    if (sliding::Fits(kernel, samples.size())) {
+        return sliding::FilterBytes(samples, results, kernel);
+    }
+    std::vector<WordRow> words(samples.size());
+    for (size_t i = 0; i < words.size(); ++i) {
+        std::ranges::transform(samples[i], words[i].begin(),
+                               [](uint8_t byte) { return static_cast<uint16_t>(byte * 256); });
+    }
+    FilterAny(words, results, kernel);
+}
+
+void FilterWords(std::span<const WordRow> samples, std::span<ByteRow> results,
+                 const BoxKernel& kernel) {
+    if (sliding::Fits(kernel, samples.size())) {
+        return sliding::FilterWords(samples, results, kernel);
+    }
+    std::vector<WordRow> words(samples.size());
+    FilterAny(samples, words, kernel);
+    for (size_t i = 0; i < words.size(); ++i) {
+        std::ranges::transform(words[i], results[i].begin(), [](uint16_t word) {
+            return static_cast<uint8_t>((word + 128) / 256);
+        });
     }
 }
 
