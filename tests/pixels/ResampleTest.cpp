@@ -55,7 +55,7 @@ std::vector<ARGB> Reference(const std::vector<ARGB>& source, int sw, int sh, int
 
 TEST(ResampleBilinear, AgreesWithItsContractPixelByPixel) {
     const std::pair<int, int> sizes[] = {{1, 1}, {1, 9},   {9, 1},  {2, 2},
-                                         {7, 5}, {16, 16}, {31, 3}, {50, 40}};
+                                         {7, 5}, {16, 16}, {31, 3}, {50, 40}, {120, 9}};
     for (const auto& [sw, sh] : sizes) {
         const std::vector<ARGB> source = Noise(sw, sh);
         for (const auto& [dw, dh] : sizes) {

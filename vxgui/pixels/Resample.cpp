@@ -1,55 +1,143 @@
 #include "vxgui/pixels/Resample.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
 #include <cmath>
+#include <cstring>
+#include <vector>
 
-#include "vxgui/base/Rounding.h"
+#include "vxgui/pixels/Multiversion.h"
 
 namespace vxgui {
 
 namespace {
 
-/// A place between two samples.
+constexpr size_t kChannels = sizeof(ARGB);
+/// How many bytes further on a channel's neighbour lies: three, not four, which is meant.
+constexpr size_t kNeighbour = 3;
+
+/// A place between two samples, and what they weigh.
 struct Between {
     Between(int32_t position, float step) {
         const float place = static_cast<float>(position) * step;
         const float whole = std::floor(place);
         index = static_cast<size_t>(whole);
-        fraction = place - whole;
-    }
-    float Mix(int32_t first, int32_t second) const {
-        return (1 - fraction) * static_cast<float>(first) + fraction * static_cast<float>(second);
+        second = place - whole;
+        first = 1 - second;
     }
     size_t index;
-    float fraction;
+    float first, second;
 };
 
 float Step(int32_t size, int32_t targetSize) {
     return static_cast<float>(size - 1) / static_cast<float>(targetSize);
 }
 
-/// The bytes of a picture. Those behind its end are 0: they are only read with a weight of 0.
-class Bytes {
+/// Rounds a value of 0 to 255, halves to even: added to 1.5 * 2^23 it leaves the integer in the
+/// lowest bits.
+[[gnu::always_inline]] inline uint32_t Rounded(float value) {
+    return std::bit_cast<uint32_t>(value + 12582912.0F) & 255;
+}
+
+[[gnu::always_inline]] inline float Channel(uint32_t pixel, int shift) {
+    return static_cast<float>(static_cast<int32_t>(pixel >> shift & 255));
+}
+
+VXGUI_MULTIVERSION(void, MixRows,
+                   (const uint32_t* __restrict upper, const uint32_t* __restrict lower, float first,
+                    float second, uint32_t* __restrict mixed, size_t count)) {
+    for (size_t i = 0; i < count; ++i) {
+        uint32_t pixel = 0;
+        for (int shift = 0; shift < 32; shift += 8) {
+            pixel |= Rounded(first * Channel(upper[i], shift) + second * Channel(lower[i], shift))
+                     << shift;
+        }
+        mixed[i] = pixel;
+    }
+}
+
+// A place has eight bytes of a row: those of its own pixel, and behind them some of the next.
+VXGUI_MULTIVERSION(void, MixColumns,
+                   (const uint64_t* __restrict places, const float* __restrict first,
+                    const float* __restrict second, uint32_t* __restrict target, size_t count)) {
+    for (size_t i = 0; i < count; ++i) {
+        const auto left = static_cast<uint32_t>(places[i]);
+        const auto right = static_cast<uint32_t>(places[i] >> 8 * kNeighbour);
+        uint32_t mixed = target[i] & 0xFF000000;
+        for (int shift = 0; shift < 24; shift += 8) {
+            mixed |= Rounded(first[i] * Channel(left, shift) + second[i] * Channel(right, shift))
+                     << shift;
+        }
+        target[i] = mixed;
+    }
+}
+
+const uint32_t* Words(const void* pixels) { return static_cast<const uint32_t*>(pixels); }
+
+/// A row of the source in the columns of the target.
+class Columns {
 public:
-    explicit Bytes(std::span<const ARGB> pixels)
-        : bytes_(reinterpret_cast<const uint8_t*>(pixels.data())), size_(pixels.size_bytes()) {}
-    uint8_t operator[](size_t i) const { return i < size_ ? bytes_[i] : 0; }
+    Columns(int32_t width, int32_t targetWidth) {
+        const float step = Step(width, targetWidth);
+        for (int32_t column = 0; column < targetWidth; ++column) {
+            const Between place(column, step);
+            offsets_.push_back(static_cast<uint32_t>(place.index * kChannels));
+            first_.push_back(place.first);
+            second_.push_back(place.second);
+        }
+        places_.resize(offsets_.size());
+    }
+
+    /// Whether it is less work to mix the rows at the places alone; they lie in the row.
+    bool AreFew(size_t width) const {
+        return 2 * offsets_.size() < width &&
+               offsets_.back() + sizeof(uint64_t) <= width * kChannels;
+    }
+
+    /// Mixes two rows and stores the result.
+    void Store(const ARGB* upper, const ARGB* lower, const Between& row, ARGB* target) {
+        upper_.resize(places_.size());
+        lower_.resize(places_.size());
+        Gather(upper, upper_);
+        Gather(lower, lower_);
+        MixRows(Words(upper_.data()), Words(lower_.data()), row.first, row.second,
+                reinterpret_cast<uint32_t*>(places_.data()), 2 * places_.size());
+        MixAll(target);
+    }
+
+    /// Stores a row that goes on for four bytes behind its last pixel.
+    void Store(const ARGB* row, ARGB* target) {
+        Gather(row, places_);
+        MixAll(target);
+    }
 
 private:
-    const uint8_t* bytes_;
-    size_t size_;
-};
+    static constexpr size_t kLongest = 16;  ///< pixels in the longest vector
 
-/// The six bytes from `offset` on, mixed with those one row on.
-std::array<int32_t, 6> MixRows(const Bytes& bytes, size_t offset, size_t rowBytes,
-                               const Between& y) {
-    std::array<int32_t, 6> mixed;
-    for (size_t k = 0; k < mixed.size(); ++k) {
-        mixed[k] = RoundHalfEven(y.Mix(bytes[offset + k], bytes[offset + rowBytes + k]));
+    void Gather(const ARGB* row, std::vector<uint64_t>& places) const {
+        const auto* const bytes = reinterpret_cast<const uint8_t*>(row);
+        for (size_t i = 0; i < offsets_.size(); ++i) {
+            std::memcpy(&places[i], bytes + offsets_[i], sizeof places[i]);
+        }
     }
-    return mixed;
-}
+
+    void MixAll(ARGB* target) const {
+        const size_t count = places_.size(), rest = count % kLongest;
+        Mix(0, count - rest, target);
+        // The last ones once more with some before them, which gives the same: one by one they
+        // would take as long as all of a short row.
+        if (rest > 0) Mix(count - std::min(count, kLongest), std::min(count, kLongest), target);
+    }
+
+    void Mix(size_t begin, size_t count, ARGB* target) const {
+        MixColumns(places_.data() + begin, first_.data() + begin, second_.data() + begin,
+                   reinterpret_cast<uint32_t*>(target + begin), count);
+    }
+
+    std::vector<uint32_t> offsets_;
+    std::vector<float> first_, second_;  ///< what both sides weigh
+    std::vector<uint64_t> places_, upper_, lower_;
+};
 
 }  // namespace
 
@@ -59,24 +147,27 @@ void ResampleBilinear(std::span<const ARGB> source, int32_t sourceWidth, std::sp
     const auto rows = [](size_t pixels, int32_t width) {
         return static_cast<int32_t>(pixels / static_cast<size_t>(width));
     };
-    const int32_t sourceHeight = rows(source.size(), sourceWidth);
+    const int32_t height = rows(source.size(), sourceWidth);
     const int32_t targetHeight = rows(target.size(), targetWidth);
-    if (sourceHeight < 1 || targetHeight < 1) return;
-    const float rx = Step(sourceWidth, targetWidth), ry = Step(sourceHeight, targetHeight);
-    const size_t rowBytes = static_cast<size_t>(sourceWidth) * sizeof(ARGB);
-    const Bytes bytes(source);
-    ARGB* pixel = target.data();
-    for (int32_t row = 0; row < targetHeight; ++row) {
-        const Between y(row, ry);
-        for (int32_t column = 0; column < targetWidth; ++column, ++pixel) {
-            const Between x(column, rx);
-            const auto v = MixRows(bytes, y.index * rowBytes + x.index * sizeof(ARGB), rowBytes, y);
-            const auto channel = [&](size_t k) {
-                return static_cast<uint8_t>(
-                    std::clamp(RoundHalfEven(x.Mix(v[k], v[k + 3])), 0, 255));
-            };
-            *pixel = {channel(0), channel(1), channel(2), pixel->Alpha};
+    if (height < 1 || targetHeight < 1) return;
+    const float step = Step(height, targetHeight);
+    Columns columns(sourceWidth, targetWidth);
+    const bool few = columns.AreFew(static_cast<size_t>(sourceWidth));
+    const auto row = [&](size_t y) { return source.data() + y * static_cast<size_t>(sourceWidth); };
+    // What lies behind the last pixel is only read with a weight of 0, and the row below the last
+    // one as well.
+    std::vector<ARGB> mixed(static_cast<size_t>(sourceWidth) + 1);
+    for (int32_t y = 0; y < targetHeight; ++y) {
+        const Between place(y, step);
+        const size_t below = std::min(place.index + 1, static_cast<size_t>(height) - 1);
+        ARGB* const to = target.data() + static_cast<size_t>(y) * targetWidth;
+        if (few) {
+            columns.Store(row(place.index), row(below), place, to);
+            continue;
         }
+        MixRows(Words(row(place.index)), Words(row(below)), place.first, place.second,
+                reinterpret_cast<uint32_t*>(mixed.data()), static_cast<size_t>(sourceWidth));
+        columns.Store(mixed.data(), to);
     }
 }
 
