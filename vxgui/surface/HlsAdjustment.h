@@ -1,9 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 
-#include "vxgui/pixels/ARGB.h"
+#include "vxgui/pixels/HlsLoops.h"
 
 namespace vxgui {
 
@@ -19,44 +20,27 @@ public:
     void Apply(std::span<ARGB> pixels) const;
 
 private:
-    /// Channels between the stages: they may leave 0 to 255 until the last.
+    /// They may leave 0 to 255 until they are lightened.
     struct Channels {
         int32_t red, green, blue;
     };
-    struct Pair {
-        int32_t max, min;
-    };
-
-    /// The highest and the lowest channel, and the hue in sixths of a turn.
-    struct HuePlace {
-        Pair pair;
-        float f;
-    };
-
     void PrepareColourize();
-    static HuePlace PlaceOf(Channels in);
-    Channels Colourized(Channels in) const;
-    Channels HueTurned(Channels in) const;
-    Channels Saturated(Channels in) const;
-    Pair Stretched(Pair pair) const;
-    int32_t Lightened(int32_t channel) const;
-    template <class Stage>
-    void ApplyStage(std::span<ARGB> pixels, Stage stage) const;
+    Channels Colourized(int32_t average) const;
+    ARGB ColorOf(int32_t average) const;
 
     bool colourize_;
-    float h_;             ///< sixths of a turn
-    int32_t hSign_;       ///< of the hue
+    float h_;  ///< sixths of a turn
+    int32_t hSign_;
+    hls::Stretch stretch_{};
+    hls::Light light_{};
+
+    // Under colourize:
     int32_t p_ = 0;       ///< the hue's place on a circle of 1530
     int32_t sector_ = 0;  ///< sixth of the circle
     int32_t weight_ = 0;  ///< of the channel between the highest and the lowest, over 256
-    float inv_;           ///< 1 less the saturation
-    float sf_;            ///< the saturation as a fraction
-    float sp_;            ///< 1 more than it under colourize, else half of it
+    float sp_ = 1;        ///< 1 more than the saturation
     int32_t sb_ = 0;      ///< it on the scale of a channel
-    int32_t sSign_;
-    int32_t lInt_;  ///< the luminance in percent
-    int32_t lBase_ = 0;
-    int32_t lMul_ = 0;  ///< in 65536ths
+    std::array<ARGB, 256> colors_{};  ///< for each average of the channels
 };
 
 }  // namespace vxgui
