@@ -2,10 +2,25 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <new>
 #include <random>
 #include <vector>
 
 namespace vxgui::bench {
+
+/// Memory that begins at a line of the cache, so that nobody has the luck of the heap.
+template <class T>
+struct LineAllocator {
+    using value_type = T;
+    static constexpr std::align_val_t kLine{64};
+
+    LineAllocator() = default;
+    template <class U>
+    LineAllocator(const LineAllocator<U>&) {}
+    T* allocate(size_t count) { return static_cast<T*>(::operator new(count * sizeof(T), kLine)); }
+    void deallocate(T* place, size_t) { ::operator delete(place, kLine); }
+    bool operator==(const LineAllocator&) const { return true; }
+};
 
 /// 32-bit pixels, top row first.
 struct Pixels {
@@ -20,7 +35,7 @@ struct Pixels {
     uint8_t* Bytes() { return reinterpret_cast<uint8_t*>(words.data()); }
 
     int width, height;
-    std::vector<uint32_t> words;
+    std::vector<uint32_t, LineAllocator<uint32_t>> words;
 };
 
 /// Straight pixels, each of its own colour: all translucent, or in runs of clear, opaque and
