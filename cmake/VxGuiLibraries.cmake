@@ -19,6 +19,8 @@ set_source_files_properties(${VXGUI_LOOP_SOURCES} PROPERTIES COMPILE_OPTIONS -O3
 file(GLOB VXGUI_PIXEL_SOURCES CONFIGURE_DEPENDS vxgui/platform/gdi/*.cpp)
 set_source_files_properties(${VXGUI_PIXEL_SOURCES} PROPERTIES COMPILE_OPTIONS
                             "$<$<NOT:$<CONFIG:Debug>>:-O3>")
+set_source_files_properties(vxgui/platform/gdi/GatherWords.cpp PROPERTIES COMPILE_OPTIONS
+                            "$<$<NOT:$<CONFIG:Debug>>:-O3>;-fno-tree-vectorize;-fno-tree-slp-vectorize")
 
 set(VXPLATFORM_LINKS PkgConfig::VXGUI_DEPS GIF::GIF Threads::Threads ${CMAKE_DL_LIBS})
 

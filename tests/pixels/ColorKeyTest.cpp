@@ -107,5 +107,21 @@ TEST(MaskByColor, TakesTheColourInPixelForm) {
     EXPECT_EQ(pixels[1], (ARGB{0, 0, 0, 255}));
 }
 
+TEST(MergeByKey, RunsOfTheKeyHideNoStrayPixel) {
+    constexpr uint32_t kKey = 0x00CC8811;
+    const ARGB key{0xCC, 0x88, 0x11, 7}, other{0xCC, 0x88, 0x10, 7};
+    for (size_t stray = 0; stray <= 200; ++stray) {
+        std::vector<ARGB> source(201, key), target;
+        source[stray] = other;
+        for (size_t i = 0; i < source.size(); ++i) {
+            target.push_back(ARGBFromValue(static_cast<int32_t>(i * 2654435761u)));
+        }
+        std::vector<ARGB> expected = target;
+        expected[stray] = other;
+        MergeByKey(source, target, kKey);
+        ASSERT_EQ(target, expected) << stray;
+    }
+}
+
 }  // namespace
 }  // namespace vxgui

@@ -12,6 +12,12 @@ struct StoredHeader {
     uint8_t behind[124 - sizeof(gdi::BITMAPINFOHEADER) + 12 + 256 * sizeof(gdi::RGBQUAD)]{};
 };
 
+/// Whether nothing is to be looked for behind a header: neither masks nor colours.
+inline bool IsBare(const gdi::BITMAPINFOHEADER& header) {
+    return header.biSize == sizeof header && header.biBitCount > 8 &&
+           header.biCompression == gdi::BI_RGB;
+}
+
 /// The bitmap header of a surface: 32 bits a pixel, bottom row first. The image size wraps, as
 /// the creating call refuses what is too large.
 inline gdi::BITMAPINFO DibInfo(int32_t width, int32_t height) {

@@ -24,9 +24,17 @@ void cAlphaDIBSection::PaintPicture(gdi::HDC lHDC, int32_t lDstLeft, int32_t lDs
     const int32_t sw = OrDefault(lSrcWidth, Width());
     const int32_t sh = OrDefault(lSrcHeight, Height());
     if (UseDrawDib()) {
-        const StoredHeader info{header_, {}};
-        msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &info.header, LiveBits(),
-                             lSrcLeft, lSrcTop, sw, sh, 0);
+        // Without bits the platform would look for them behind the header.
+        const void* const bits = LiveBits();
+        if (!bits) return;
+        if (IsBare(header_)) {
+            msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &header_, bits, lSrcLeft,
+                                 lSrcTop, sw, sh, 0);
+        } else {
+            const StoredHeader info{header_, {}};
+            msvfw32::DrawDibDraw(gDrawDib, lHDC, lDstLeft, lDstTop, w, h, &info.header, bits,
+                                 lSrcLeft, lSrcTop, sw, sh, 0);
+        }
     } else if (w == sw && h == sh) {
         gdi::BitBlt(lHDC, lDstLeft, lDstTop, w, h, hDC_, lSrcLeft, lSrcTop, eRop);
     } else {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "vxgui/platform/kernel/KnownMemory.h"
 #include "vxgui/platform/memory.h"
 
 namespace vxgui::kernel {
@@ -72,6 +73,21 @@ TEST(MemoryProbe, UnmappedMemoryIsBad) {
     munmap(pages.Middle(), pages.Size());
     EXPECT_TRUE(IsBadReadPtr(pages.Middle(), 1));
     EXPECT_TRUE(IsBadReadPtr(pages.begin(), 3 * pages.Size()));
+}
+
+TEST(MemoryProbe, WhatTheThreadKnowsToBeThereIsNotAskedFor) {
+    auto* const nowhere = reinterpret_cast<char*>(uintptr_t{4096});
+    {
+        const KnownMemory outer(nowhere, 100);
+        const KnownMemory inner(nowhere + 200, 10);
+        EXPECT_FALSE(IsBadReadPtr(nowhere, 100));
+        EXPECT_FALSE(IsBadWritePtr(nowhere + 200, 10));
+        EXPECT_TRUE(IsBadReadPtr(nowhere, 101));
+        EXPECT_TRUE(IsBadReadPtr(nowhere - 1, 2));
+        EXPECT_TRUE(IsBadReadPtr(nowhere + 199, 2));
+        EXPECT_TRUE(IsBadReadPtr(nowhere + 50, SIZE_MAX / 4));
+    }
+    EXPECT_TRUE(IsBadReadPtr(nowhere, 100));
 }
 
 }  // namespace

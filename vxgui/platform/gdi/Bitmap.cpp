@@ -62,7 +62,7 @@ int Bitmap::Record(int size, void* buffer) const {
 
 bool Bitmap::Claim(const DeviceContext* context) {
     const DeviceContext* owner = nullptr;
-    return shape_.shared || owner_.compare_exchange_strong(owner, context) || owner == context;
+    return shape_.shared || Exchange(owner_, owner, context) || owner == context;
 }
 
 }  // namespace vxgui::gdi

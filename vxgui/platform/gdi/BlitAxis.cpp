@@ -70,6 +70,10 @@ int64_t BlitAxis::FirstNot(Before before) const {
 }
 
 void BlitAxis::CutToSource(int64_t size) {
+    if (Plain()) {
+        const int64_t shift = start_ - sourceStart_;
+        return Cut(shift, size + shift);
+    }
     if (step_ == sourceStep_) {
         low_ = FirstNot([](int64_t source) { return source < 0; });
         high_ = FirstNot([size](int64_t source) { return source < size; });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "vxgui/platform/gdi/PixelTarget.h"
 
 namespace vxgui::gdi {
@@ -9,13 +11,13 @@ struct DibForm {
     int32_t width = 0;   ///< above 0
     int32_t height = 0;  ///< above 0
     bool bottomUp = true;
-    int depth = 0;       ///< 1, 8, 24 or 32
-    int64_t stride = 0;  ///< bytes a row: a multiple of 4
-    ColorTable colors;   ///< up to 8 bits
+    int depth = 0;                     ///< 1, 8, 24 or 32
+    int64_t stride = 0;                ///< bytes a row: a multiple of 4
+    std::optional<ColorTable> colors;  ///< up to 8 bits
 
     int64_t Size() const { return stride * height; }
     /// The colours, where the depth has any.
-    const ColorTable* Colors() const { return depth <= 8 ? &colors : nullptr; }
+    const ColorTable* Colors() const { return depth <= 8 && colors ? &*colors : nullptr; }
     /// `rows` rows of this form at `bits`, top row first or last as the form says.
     PixelTarget View(const void* bits, int32_t rows) const;
 };

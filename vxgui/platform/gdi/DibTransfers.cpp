@@ -50,7 +50,7 @@ void WriteColors(const DibForm& form, BITMAPINFO* info) {
     auto* quad = reinterpret_cast<uint8_t*>(info) + DibColorOffset(info->bmiHeader);
     const int count = DibColorCount(info->bmiHeader);
     for (int i = 0; i < count; ++i, quad += 4) {
-        const uint32_t color = form.colors.colors[static_cast<size_t>(i)];
+        const uint32_t color = form.colors->colors[static_cast<size_t>(i)];
         const uint8_t bytes[4] = {static_cast<uint8_t>(color), static_cast<uint8_t>(color >> 8),
                                   static_cast<uint8_t>(color >> 16), 0};
         std::copy_n(bytes, 4, quad);

@@ -11,7 +11,7 @@ void GdiObject::AddReference() { HandleTable::AddReference(*slot_); }
 void GdiObject::Release() { HandleTable::Release(*slot_); }
 
 void GdiObject::RemoveSelection() {
-    const uint32_t before = selections_.fetch_sub(1);
+    const uint32_t before = Subtract(selections_, 1u);
     if ((before & ~kDoomed) != 1) return;
     Deselected();
     if (before & kDoomed) HandleTable::Retire(*this);

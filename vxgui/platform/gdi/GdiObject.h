@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "vxgui/platform/gdi/Counting.h"
 #include "vxgui/platform/gdi_types.h"
 
 namespace vxgui::gdi {
@@ -37,7 +38,7 @@ public:
     void Release();
 
     /// A selection is a context's claim: deletion waits until the last one is given up.
-    void AddSelection() { selections_.fetch_add(1); }
+    void AddSelection() { Add(selections_, 1u); }
     void RemoveSelection();
     bool Selected() const { return (selections_.load() & ~kDoomed) != 0; }
     /// Deletes the handle, now or when the last context deselects the object.

@@ -3,6 +3,8 @@
 #include <array>
 #include <mutex>
 
+#include "vxgui/platform/gdi/Counting.h"
+
 namespace vxgui::gdi {
 namespace {
 
@@ -22,7 +24,6 @@ struct Table {
     std::array<std::atomic<HandleSlot*>, kChunkCount> chunks{};
     uint32_t used = 1;  // index 0 stays empty, so that no handle is null
     uint32_t firstFree = 0;
-    size_t live = 0;
 };
 
 // Never destroyed: handles may be used while the process ends.
@@ -60,9 +61,7 @@ HandleSlot* FreeSlot(Table& table) {
 
 HandleSlot* TakeSlot(Table& table) {
     const std::lock_guard lock(table.mutex);
-    HandleSlot* slot = FreeSlot(table);
-    if (slot) ++table.live;
-    return slot;
+    return FreeSlot(table);
 }
 
 void GiveBack(HandleSlot& slot) {
@@ -99,7 +98,7 @@ GdiObject* HandleTable::Acquire(const void* handle) {
     uint64_t state = slot->state.load(std::memory_order_acquire);
     do {
         if (GenerationOf(state) != generation || (state & kReferenceMask) == 0) return nullptr;
-    } while (!slot->state.compare_exchange_weak(state, state + 1, std::memory_order_acq_rel));
+    } while (!Exchange(slot->state, state, state + 1));
     return slot->object.load(std::memory_order_relaxed);
 }
 
@@ -109,29 +108,28 @@ bool HandleTable::Retire(GdiObject& object) {
     uint64_t state = slot.state.load();
     do {
         if (GenerationOf(state) != generation) return false;
-    } while (!slot.state.compare_exchange_weak(state, state + kGenerationStep));
-    {
-        const std::lock_guard lock(TheTable().mutex);
-        --TheTable().live;
-    }
+    } while (!Exchange(slot.state, state, state + kGenerationStep));
     Release(slot);
     return true;
 }
 
-void HandleTable::AddReference(HandleSlot& slot) {
-    slot.state.fetch_add(1, std::memory_order_relaxed);
-}
+void HandleTable::AddReference(HandleSlot& slot) { Add(slot.state, uint64_t{1}); }
 
 void HandleTable::Release(HandleSlot& slot) {
-    const uint64_t before = slot.state.fetch_sub(1, std::memory_order_acq_rel);
+    const uint64_t before = Subtract(slot.state, uint64_t{1});
     if ((before & kReferenceMask) != 1) return;
     delete slot.object.exchange(nullptr);
     GiveBack(slot);
 }
 
 size_t HandleTable::LiveCount() {
-    const std::lock_guard lock(TheTable().mutex);
-    return TheTable().live;
+    Table& table = TheTable();
+    const std::lock_guard lock(table.mutex);
+    size_t live = 0;
+    for (uint32_t index = 1; index < table.used; ++index) {
+        live += GenerationOf(SlotAt(table, index)->state.load()) & 1;
+    }
+    return live;
 }
 
 }  // namespace vxgui::gdi

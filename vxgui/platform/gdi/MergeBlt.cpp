@@ -1,5 +1,6 @@
 #include "vxgui/platform/gdi/WordRuns.h"
 #include "vxgui/platform/gdi_merge.h"
+#include "vxgui/platform/kernel/KnownMemory.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -28,6 +29,9 @@ bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle,
     BlitReader reader(source, geometry);
     return reader.Prepare(target) &&
            ForEachWordRun(*dc, reader, area, [&](const uint32_t* s, uint32_t* t, int32_t count) {
+               // A merger that looks whether its memory is there need not ask the system.
+               const kernel::KnownMemory readable(s, size_t(count) * sizeof *s);
+               const kernel::KnownMemory writable(t, size_t(count) * sizeof *t);
                merger.Merge(s, t, count);
            });
 }

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "vxgui/platform/gdi/GatherWords.h"
+
 namespace vxgui::gdi {
 namespace {
 
@@ -58,6 +60,9 @@ void LoadRow(const PixelTarget& from, int32_t x, int32_t y, int32_t count, uint3
 
 void LoadColumns(const PixelTarget& from, const int32_t* columns, int32_t y, int32_t count,
                  uint32_t* words) {
+    if (from.depth == 32) {
+        return GatherWords(from.Row(y), columns, static_cast<size_t>(count), words);
+    }
     Load(from, y, count, words, [columns](int32_t i) { return columns[i]; });
 }
 

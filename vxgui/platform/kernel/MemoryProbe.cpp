@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "vxgui/platform/kernel/KnownMemory.h"
 #include "vxgui/platform/memory.h"
 
 namespace vxgui::kernel {
@@ -41,7 +42,7 @@ bool SystemPopulates(size_t pageSize) {
 }
 
 bool IsBad(const void* block, size_t size, int advice) {
-    if (size == 0) return false;
+    if (size == 0 || KnownMemory::Holds(block, size)) return false;
     if (!block || size > SIZE_MAX / 2 ||
         reinterpret_cast<uintptr_t>(block) > UINTPTR_MAX / 2 - size) {
         return true;
