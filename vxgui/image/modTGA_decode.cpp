@@ -62,12 +62,31 @@ int32_t DecodeMapped(const TgaRecord& record, Bytes source, const PixelTarget& t
     });
 }
 
+// Whether the pixels lie in the file as they do in a surface.
+bool IsCopy(const TgaHeader& header, size_t size) {
+    return size == sizeof(ARGB) && !RunsLeft(header) && !RunsDown(header);
+}
+
+// The file's first row is the last one of the target. Its last pixels may be missing.
+void CopyRowsDown(const TgaHeader& header, Bytes source, ARGB* pixels) {
+    for (int32_t row = header.height - 1; row >= 0; --row) {
+        const size_t count = std::min<size_t>(header.width, source.size() / sizeof(ARGB));
+        std::memcpy(static_cast<void*>(pixels + int64_t{row} * header.width), source.data(),
+                    count * sizeof(ARGB));
+        source = source.subspan(count * sizeof(ARGB));
+    }
+}
+
 int32_t DecodeTrueColour(const TgaRecord& record, Bytes source, const PixelTarget& target,
                          size_t size) {
     const TgaHeader& header = record.header;
-    if (size == 4 && !RunsLeft(header) && !RunsDown(header)) {
+    if (IsCopy(header, size)) {
         const size_t bytes = std::min(static_cast<size_t>(PixelCount(header)) * 4, source.size());
         std::memcpy(target.pixels, source.data(), bytes);
+        return tga::kOk;
+    }
+    if (size == 4 && !RunsLeft(header) && target.pitch == header.width) {
+        CopyRowsDown(header, source, target.pixels);
         return tga::kOk;
     }
     return DecodeEach(header, source, target, size, [&](const uint8_t* at, ARGB& colour) {
@@ -85,21 +104,32 @@ int32_t DecodeGrey(const TgaRecord& record, Bytes source, const PixelTarget& tar
     });
 }
 
-// Unpacks runs of pixels of `size` bytes until the source or the target ends.
-void Unpack(Bytes source, std::span<uint8_t> target, size_t size) {
+// Unpacks runs of pixels of `Size` bytes until the source or the target ends; answers what is left
+// of the target.
+template <size_t Size>
+std::span<uint8_t> UnpackRuns(Bytes source, std::span<uint8_t> target) {
     while (!target.empty() && !source.empty()) {
         const uint8_t head = source[0];
         source = source.subspan(1);
-        const size_t run = std::min<size_t>((head & 127u) + 1, target.size() / size);
-        const bool repeated = head > 127;
-        if (source.size() < size) return;
-        for (size_t i = 0; i < run && source.size() >= size; ++i) {
-            std::copy_n(source.begin(), size, target.begin());
-            target = target.subspan(size);
-            if (!repeated) source = source.subspan(size);
+        if (source.size() < Size) break;
+        size_t run = std::min<size_t>((head & 127u) + 1, target.size() / Size), taken = 1;
+        if (head > 127) {
+            for (size_t i = 0; i < run; ++i) {
+                std::memcpy(target.data() + i * Size, source.data(), Size);
+            }
+        } else {
+            taken = run = std::min(run, source.size() / Size);
+            std::memcpy(target.data(), source.data(), run * Size);
         }
-        if (repeated) source = source.subspan(size);
+        source = source.subspan(taken * Size);
+        target = target.subspan(run * Size);
     }
+    return target;
+}
+
+std::span<uint8_t> Unpack(Bytes source, std::span<uint8_t> target, size_t size) {
+    if (size == 2) return UnpackRuns<2>(source, target);
+    return size == 3 ? UnpackRuns<3>(source, target) : UnpackRuns<4>(source, target);
 }
 
 // Bytes a pixel, 0 for a depth that the image type does not come in.
@@ -129,6 +159,12 @@ int32_t DecodePixels(const TgaRecord& record, Bytes source, const PixelTarget& t
 
 int32_t DecodePacked(const TgaRecord& record, Bytes packed, const PixelTarget& target,
                      size_t size) {
+    if (record.header.imageType == 10 && IsCopy(record.header, size)) {
+        const std::span pixels(reinterpret_cast<uint8_t*>(target.pixels),
+                               static_cast<size_t>(PixelCount(record.header)) * size);
+        std::ranges::fill(Unpack(packed, pixels, size), uint8_t{0});
+        return tga::kOk;
+    }
     std::vector<uint8_t> unpacked(static_cast<size_t>(PixelCount(record.header)) * size);
     // Types 9 and 11 hand source and target to the unpacker the wrong way round, so that their
     // pixels are those of the fresh buffer: this is meant. The block, which may be read-only, is
