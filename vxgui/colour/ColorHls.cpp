@@ -1,6 +1,7 @@
 #include "vxgui/colour/ColorHls.h"
 
 #include <algorithm>
+#include <array>
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/colour/modColours.h"
@@ -11,26 +12,46 @@ namespace {
 
 constexpr uint16_t kAchromaticHue = 160;
 
+/// Divisions by numbers that aren't known beforehand were most of the time: 2^31 / d, rounded up,
+/// is near enough to divide what is below 2^16 by up to 510.
+class Reciprocals {
+public:
+    constexpr Reciprocals() {
+        for (uint32_t d = 1; d < kSize; ++d) of_[d] = ((1U << kShift) + d - 1) / d;
+    }
+    uint32_t Quotient(int32_t dividend, int32_t divisor) const {
+        return static_cast<uint32_t>(
+            static_cast<uint64_t>(dividend) * of_[static_cast<size_t>(divisor)] >> kShift);
+    }
+
+private:
+    static constexpr int kShift = 31;
+    static constexpr uint32_t kSize = 511;
+    std::array<uint32_t, kSize> of_{};
+};
+constexpr Reciprocals kReciprocals;
+
+int32_t Quotient(int32_t dividend, int32_t divisor) {
+    return static_cast<int32_t>(kReciprocals.Quotient(dividend, divisor));
+}
+
 int32_t SaturationOf(int32_t maximum, int32_t minimum, int32_t luminance) {
     const int32_t spread = maximum - minimum, sum = maximum + minimum;
     const int32_t room = luminance <= 120 ? sum : 510 - sum;
-    return (spread * 240 + room / 2) / room;
+    return Quotient(spread * 240 + room / 2, room);
 }
 
+// The choices are among numbers, so that no jump depends on the colour.
 int32_t HueOf(int32_t red, int32_t green, int32_t blue, int32_t maximum, int32_t spread) {
     const auto delta = [&](int32_t channel) {
-        return ((maximum - channel) * 40 + spread / 2) / spread;
+        return Quotient((maximum - channel) * 40 + spread / 2, spread);
     };
-    int32_t hue = 0;
-    if (red == maximum) {
-        hue = delta(blue) - delta(green);
-    } else if (green == maximum) {
-        hue = 80 + delta(red) - delta(blue);
-    } else {
-        hue = 160 + delta(green) - delta(red);
-    }
-    if (hue < 0) return hue + 240;
-    return hue > 240 ? hue - 240 : hue;
+    const bool isRed = red == maximum, isGreen = green == maximum;
+    const int32_t start = isRed ? 0 : isGreen ? 80 : 160;
+    const int32_t behind = isRed ? blue : isGreen ? red : green;
+    const int32_t ahead = isRed ? green : isGreen ? blue : red;
+    const int32_t hue = start + delta(behind) - delta(ahead);
+    return hue + (hue < 0 ? 240 : 0) - (hue > 240 ? 240 : 0);
 }
 
 /// (a * b + half) / divisor. Values outside the scale make it wrap.
@@ -45,6 +66,26 @@ int32_t Part(int32_t m1, int32_t m2, uint16_t hue) {
     if (h < 120) return m2;
     if (h < 160) return m1 + Share(m2 - m1, 160 - h, 20, 40);
     return m1;
+}
+
+/// The same for an `m2` that isn't below `m1`, as of all values on the scale: it rises, stays and
+/// falls, without a jump.
+uint32_t PartOnScale(uint32_t m1, uint32_t spread, uint16_t hue) {
+    const int32_t h = hue - (hue > 240 ? 240 : 0);
+    const auto share = static_cast<uint32_t>(std::clamp(std::min(h, 160 - h), 0, 40));
+    return m1 + (spread * share + 20) / 40;
+}
+
+int32_t OnScale(uint16_t hue, uint32_t luminance, uint32_t saturation) {
+    // The steps that truncate, with what divides both sides taken out.
+    const uint32_t share = (luminance * saturation + 120) / 240;
+    const uint32_t m2 = luminance + (luminance <= 120 ? share : saturation - share);
+    const uint32_t m1 = 2 * luminance - m2;
+    const auto channel = [&](int32_t turn) {
+        const uint32_t part = PartOnScale(m1, m2 - m1, static_cast<uint16_t>(hue + turn));
+        return static_cast<int32_t>((part * 17 + 8) / 16);
+    };
+    return ColorRefOf(channel(80), channel(0), channel(-80));
 }
 
 }  // namespace
@@ -66,6 +107,7 @@ int32_t ColorHLSToRGB(uint16_t hue, uint16_t luminance, uint16_t saturation) {
         const int32_t grey = lum * 255 / 240;
         return ColorRefOf(grey, grey, grey);
     }
+    if (lum <= 240 && sat <= 240) return OnScale(hue, luminance, saturation);
     const int32_t m2 =
         lum <= 120 ? Share(lum, 240 + sat, 120, 240) : lum + sat - Share(lum, sat, 120, 240);
     const int32_t m1 = 2 * lum - m2;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <span>
 
@@ -104,6 +105,17 @@ int32_t DecodeGrey(const TgaRecord& record, Bytes source, const PixelTarget& tar
     });
 }
 
+// Writes the pixel of `Size` bytes so many times, eight of them at once.
+template <size_t Size>
+void Repeat(const uint8_t* pixel, size_t count, uint8_t* target) {
+    std::array<uint8_t, 8 * Size> eight;
+    for (size_t i = 0; i < 8; ++i) std::memcpy(&eight[i * Size], pixel, Size);
+    for (; count >= 8; count -= 8, target += eight.size()) {
+        std::memcpy(target, eight.data(), eight.size());
+    }
+    for (; count > 0; --count, target += Size) std::memcpy(target, pixel, Size);
+}
+
 // Unpacks runs of pixels of `Size` bytes until the source or the target ends; answers what is left
 // of the target.
 template <size_t Size>
@@ -112,16 +124,15 @@ std::span<uint8_t> UnpackRuns(Bytes source, std::span<uint8_t> target) {
         const uint8_t head = source[0];
         source = source.subspan(1);
         if (source.size() < Size) break;
-        size_t run = std::min<size_t>((head & 127u) + 1, target.size() / Size), taken = 1;
-        if (head > 127) {
-            for (size_t i = 0; i < run; ++i) {
-                std::memcpy(target.data() + i * Size, source.data(), Size);
-            }
+        const size_t length = std::min<size_t>((head & 127u) + 1, target.size() / Size);
+        const bool repeated = head > 127;
+        const size_t run = repeated ? length : std::min(length, source.size() / Size);
+        if (repeated) {
+            Repeat<Size>(source.data(), run, target.data());
         } else {
-            taken = run = std::min(run, source.size() / Size);
-            std::memcpy(target.data(), source.data(), run * Size);
+            std::copy_n(source.data(), run * Size, target.data());
         }
-        source = source.subspan(taken * Size);
+        source = source.subspan((repeated ? 1 : run) * Size);
         target = target.subspan(run * Size);
     }
     return target;
