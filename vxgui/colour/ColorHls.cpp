@@ -68,21 +68,32 @@ int32_t Part(int32_t m1, int32_t m2, uint16_t hue) {
     return m1;
 }
 
-/// The same for an `m2` that isn't below `m1`, as of all values on the scale: it rises, stays and
-/// falls, without a jump.
-uint32_t PartOnScale(uint32_t m1, uint32_t spread, uint16_t hue) {
-    const int32_t h = hue - (hue > 240 ? 240 : 0);
-    const auto share = static_cast<uint32_t>(std::clamp(std::min(h, 160 - h), 0, 40));
-    return m1 + (spread * share + 20) / 40;
-}
+/// How far a channel is on its way up, of 40, at the distances from -80 to 320 around the circle:
+/// it rises, stays and falls.
+class Ways {
+public:
+    constexpr Ways() {
+        for (int32_t i = 0; i < kSize; ++i) {
+            const int32_t hue = i - kBefore, h = hue > 240 ? hue - 240 : hue;
+            of_[static_cast<size_t>(i)] =
+                static_cast<uint8_t>(std::clamp(std::min(h, 160 - h), 0, 40));
+        }
+    }
+    uint32_t At(int32_t hue) const { return of_[static_cast<size_t>(hue + kBefore)]; }
 
-int32_t OnScale(uint16_t hue, uint32_t luminance, uint32_t saturation) {
-    // The steps that truncate, with what divides both sides taken out.
+private:
+    static constexpr int32_t kBefore = 80, kSize = 401;
+    std::array<uint8_t, kSize> of_{};
+};
+constexpr Ways kWays;
+
+/// The colour of values on the scale. The steps truncate; what divides both sides is taken out.
+int32_t OnScale(int32_t hue, uint32_t luminance, uint32_t saturation) {
     const uint32_t share = (luminance * saturation + 120) / 240;
     const uint32_t m2 = luminance + (luminance <= 120 ? share : saturation - share);
-    const uint32_t m1 = 2 * luminance - m2;
+    const uint32_t m1 = 2 * luminance - m2, spread = m2 - m1;
     const auto channel = [&](int32_t turn) {
-        const uint32_t part = PartOnScale(m1, m2 - m1, static_cast<uint16_t>(hue + turn));
+        const uint32_t part = m1 + (spread * kWays.At(hue + turn) + 20) / 40;
         return static_cast<int32_t>((part * 17 + 8) / 16);
     };
     return ColorRefOf(channel(80), channel(0), channel(-80));
@@ -107,7 +118,7 @@ int32_t ColorHLSToRGB(uint16_t hue, uint16_t luminance, uint16_t saturation) {
         const int32_t grey = lum * 255 / 240;
         return ColorRefOf(grey, grey, grey);
     }
-    if (lum <= 240 && sat <= 240) return OnScale(hue, luminance, saturation);
+    if (hue <= 240 && lum <= 240 && sat <= 240) return OnScale(hue, luminance, saturation);
     const int32_t m2 =
         lum <= 120 ? Share(lum, 240 + sat, 120, 240) : lum + sat - Share(lum, sat, 120, 240);
     const int32_t m1 = 2 * lum - m2;
