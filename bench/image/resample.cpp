@@ -1,6 +1,6 @@
+#include "vxgui/pixels/Resample.h"
 #include "bench/Beside.h"
 #include "bench/image/Surfaces.h"
-#include "vxgui/pixels/Resample.h"
 
 namespace vxgui::bench {
 namespace {

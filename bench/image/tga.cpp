@@ -19,9 +19,7 @@ auto Ours(bool packed) {
 auto Roof() {
     auto pixels = std::make_shared<Pixels>(kSide, kSide), others = pixels;
     others = std::make_shared<Pixels>(kSide, kSide);
-    return [=] {
-        StreamCopy(pixels->words.data(), others->words.data(), others->words.size());
-    };
+    return [=] { StreamCopy(pixels->words.data(), others->words.data(), others->words.size()); };
 }
 
 const bool kAdded = [] {
