@@ -47,7 +47,7 @@ public:
     bool Claim(const DeviceContext* context);
 
 protected:
-    void Deselected() override { owner_ = nullptr; }
+    void Deselected() override { owner_.store(nullptr, std::memory_order_release); }
 
 private:
     BITMAP BitmapRecord() const;

@@ -8,6 +8,9 @@ namespace vxgui::gdi {
 
 /// What a published bitmap header says, checked.
 struct DibForm {
+    // Not the compiler's, which would clear the colours that hardly any picture has.
+    DibForm() {}
+
     int32_t width = 0;   ///< above 0
     int32_t height = 0;  ///< above 0
     bool bottomUp = true;

@@ -118,7 +118,8 @@ void HandleTable::AddReference(HandleSlot& slot) { Add(slot.state, uint64_t{1});
 void HandleTable::Release(HandleSlot& slot) {
     const uint64_t before = Subtract(slot.state, uint64_t{1});
     if ((before & kReferenceMask) != 1) return;
-    delete slot.object.exchange(nullptr);
+    delete slot.object.load(std::memory_order_relaxed);  // nobody else is left who could look
+    slot.object.store(nullptr, std::memory_order_relaxed);
     GiveBack(slot);
 }
 
