@@ -159,21 +159,23 @@ void PartBlur<Channels>::Vertically(const WordRow* column, size_t number) {
 
 template <size_t Channels>
 void PartBlur<Channels>::Store(const uint8_t* from, ARGB* to, size_t count) const {
-    if (Channels > 1 && count == kPixels) {
-        std::memcpy(static_cast<void*>(to), from, kStripLanes);
-        return;
+    if constexpr (Channels > 1) {
+        std::memcpy(static_cast<void*>(to), from, count * Channels);
+    } else {
+        auto* const words = reinterpret_cast<uint32_t*>(to);
+        for (size_t x = 0; x < count; ++x) words[x] = uint32_t{from[x]} << 24;  // all were black
     }
-    for (size_t x = 0; x < count; ++x) std::memcpy(Bytes(to + x), from + x * Channels, Channels);
 }
 
 /// Whether the colours are 0 throughout, as those of a black shadow: they stay so.
 bool IsBlack(const Part& part) {
     for (size_t y = 0; y < part.height; ++y) {
         const ARGB* const row = part.Row(y);
-        if (std::any_of(row, row + part.width,
-                        [](ARGB pixel) { return pixel.Blue | pixel.Green | pixel.Red; })) {
-            return false;
+        uint32_t colors = 0;
+        for (size_t x = 0; x < part.width; ++x) {
+            colors |= static_cast<uint32_t>(row[x].Blue | row[x].Green | row[x].Red);
         }
+        if (colors != 0) return false;
     }
     return true;
 }
