@@ -37,7 +37,7 @@ TEST(DrawBackground, ARepaintOfAThousandItemsTakesNoNewMemory) {
     const bench::Scene scene;
     const bench::HostTarget target(bench::Scene::kWidth, bench::Scene::kHeight);
     scene.Draw(target.dc);
-    const std::vector<uint32_t> once = target.words;
+    const auto once = target.words;
     const int before = test::gAllocations;
     scene.Draw(target.dc);
     EXPECT_EQ(test::gAllocations - before, 0);
