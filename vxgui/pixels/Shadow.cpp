@@ -1,7 +1,11 @@
 #include "vxgui/pixels/Shadow.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <vector>
+
+#include "vxgui/pixels/Multiversion.h"
 
 namespace vxgui {
 namespace {
@@ -26,30 +30,77 @@ std::vector<int32_t> CoverageOf(std::span<const ARGB> pixels) {
     return coverage;
 }
 
+/// Divides sums of up to 255 times a box by it, truncating.
+class BoxQuotient {
+public:
+    /// Above it a float can't tell a quotient from the next integer.
+    static constexpr int32_t kLargest = 8192;
+
+    // The next number above the reciprocal: a quotient never falls short of an integer.
+    explicit BoxQuotient(int32_t box)
+        : factor_(std::nextafter(1 / static_cast<float>(box), 2.0F)) {}
+    [[gnu::always_inline]] int32_t Of(int32_t sum) const {
+        return static_cast<int32_t>(static_cast<float>(sum) * factor_);
+    }
+
+private:
+    float factor_;
+};
+
+VXGUI_MULTIVERSION(void, DivideShort, (int32_t * sums, size_t count, int32_t box)) {
+    const BoxQuotient quotient(box);
+    for (size_t i = 0; i < count; ++i) sums[i] = quotient.Of(sums[i]);
+}
+
+void Divide(int32_t* sums, size_t count, int32_t box) {
+    if (box <= BoxQuotient::kLargest) return DivideShort(sums, count, box);
+    for (size_t i = 0; i < count; ++i) sums[i] /= box;
+}
+
+VXGUI_MULTIVERSION(void, MoveDown,
+                   (const int32_t* __restrict above, const int32_t* __restrict below,
+                    int32_t* __restrict sums, int32_t* __restrict copies, size_t count)) {
+    for (size_t i = 0; i < count; ++i) {
+        sums[i] += below[i] - above[i];
+        copies[i] = sums[i];
+    }
+}
+
 void BlurRow(std::span<int32_t> row, int32_t box) {
     const auto width = static_cast<int32_t>(row.size());
+    if (width <= box) return;
     int32_t sum = 0;
-    for (int32_t i = 0; i < std::min(box, width); ++i) sum += row[i];
+    for (int32_t i = 0; i < box; ++i) sum += row[i];
     for (int32_t i = box; i < width; ++i) {
         sum += row[i] - row[i - box];
-        row[i - box] = sum / box & 255;
+        row[i - box] = sum;
     }
+    Divide(row.data(), static_cast<size_t>(width - box), box);
+}
+
+/// The pixel for each share.
+std::array<ARGB, 256> ShadowPixels(ARGB color) {
+    std::array<ARGB, 256> pixels;
+    for (int32_t share = 0; share < 256; ++share) {
+        pixels[static_cast<size_t>(share)] = ShadowPixel(color, share);
+    }
+    return pixels;
 }
 
 // Runs down all columns at once, which keeps to the order of memory.
 void ColourColumns(std::span<ARGB> pixels, std::span<const int32_t> rows, int32_t width,
                    int32_t height, int32_t box, ARGB color) {
-    std::vector<int32_t> sums(width);
+    const std::array<ARGB, 256> colors = ShadowPixels(color);
+    std::vector<int32_t> sums(width), shares(width);
     for (int32_t y = 0; y < std::min(box, height); ++y) {
         for (int32_t x = 0; x < width; ++x) sums[x] += rows[size_t(y) * width + x];
     }
     for (int32_t y = 0; y < height - box; ++y) {
-        const int32_t* above = &rows[size_t(y) * width];
-        const int32_t* below = &rows[size_t(y + box) * width];
-        for (int32_t x = 0; x < width; ++x) {
-            sums[x] += below[x] - above[x];
-            pixels[size_t(y) * width + x] = ShadowPixel(color, sums[x] / box & 255);
-        }
+        MoveDown(&rows[size_t(y) * width], &rows[size_t(y + box) * width], sums.data(),
+                 shares.data(), shares.size());
+        Divide(shares.data(), shares.size(), box);
+        ARGB* const row = &pixels[size_t(y) * width];
+        for (int32_t x = 0; x < width; ++x) row[x] = colors[static_cast<size_t>(shares[x] & 255)];
     }
 }
 
