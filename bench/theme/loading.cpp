@@ -30,28 +30,27 @@ auto DefineBytes() {
     };
 }
 
-// What the frames of a compiled skin hold, into memory that is kept, with a decoder that is kept.
+// The file read, and its sections uncompressed into memory of their own by a decoder that is kept.
 class Uncompressed {
 public:
     void Read(const String& path) {
-        core7::ReadWholeFile(path, &file_);
-        size_t at = kHeader + kEntry * LoadLittle<uint32_t>(file_.data() + kCountAt);
-        for (size_t to = 0; at < file_.size();) {
-            const size_t stored =
-                ZSTD_findFrameCompressedSize(file_.data() + at, file_.size() - at);
-            const auto size = static_cast<size_t>(
-                ZSTD_getFrameContentSize(file_.data() + at, stored));
-            bytes_.resize(std::max(bytes_.size(), to + size));
-            ZSTD_decompressDCtx(decoder_.get(), bytes_.data() + to, size, file_.data() + at,
-                                stored);
+        ByteArray file;
+        core7::ReadWholeFile(path, &file);
+        const size_t count = LoadLittle<uint32_t>(file.data() + kCountAt);
+        std::vector<std::unique_ptr<uint8_t[]>> sections;
+        for (size_t at = kHeader + kEntry * count; at < file.size();) {
+            const uint8_t* const frame = file.data() + at;
+            const size_t stored = ZSTD_findFrameCompressedSize(frame, file.size() - at);
+            const auto size = static_cast<size_t>(ZSTD_getFrameContentSize(frame, stored));
+            sections.emplace_back(new uint8_t[size]);
+            ZSTD_decompressDCtx(decoder_.get(), sections.back().get(), size, frame, stored);
             at += stored;
-            to += size;
         }
+        benchmark::DoNotOptimize(sections.data());
     }
 
 private:
     static constexpr size_t kHeader = 20, kEntry = 12, kCountAt = 16;  // docs/formats.md
-    ByteArray file_, bytes_;
     std::unique_ptr<ZSTD_DCtx, size_t (*)(ZSTD_DCtx*)> decoder_{ZSTD_createDCtx(), ZSTD_freeDCtx};
 };
 

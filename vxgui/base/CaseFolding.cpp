@@ -15,15 +15,32 @@ char16_t FoldLetter(char16_t c) {
     return c;
 }
 
-inline char16_t Fold(char16_t c) {
-    if (c >= 0x80) return FoldLetter(c);
-    return c >= u'A' && c <= u'Z' ? c + 32 : c;
+template <class Unit>
+Unit FoldAscii(Unit c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<Unit>(c + 32) : c;
 }
+
+inline char16_t Fold(char16_t c) { return c >= 0x80 ? FoldLetter(c) : FoldAscii(c); }
+inline uint8_t Fold(char c) { return FoldAscii(static_cast<uint8_t>(c)); }
 
 // An odd factor that a file's author can't know: it lies where the program was loaded.
 uint64_t Factor() {
     static const char place = 0;
     return (reinterpret_cast<uintptr_t>(&place) * 0x9E3779B97F4A7C15u) | 1;
+}
+
+template <class View>
+bool Equal(View a, View b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](auto x, auto y) { return x == y || Fold(x) == Fold(y); });
+}
+
+template <class View>
+uint64_t Hash(View text) {
+    static const uint64_t factor = Factor();
+    uint64_t hash = text.size();
+    for (const auto unit : text) hash = (hash + Fold(unit)) * factor;
+    return hash ^ hash >> 32;
 }
 
 }  // namespace
@@ -32,16 +49,10 @@ uint64_t Factor() {
 // Greek, Cyrillic (Unicode CaseFolding.txt, status C, the regular runs).
 char16_t FoldUnit(char16_t unit) { return Fold(unit); }
 
-bool EqualFolded(std::u16string_view a, std::u16string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char16_t x, char16_t y) { return x == y || Fold(x) == Fold(y); });
-}
+bool EqualFolded(std::u16string_view a, std::u16string_view b) { return Equal(a, b); }
+bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }
 
-uint64_t FoldedHash(std::u16string_view text) {
-    const uint64_t factor = Factor();
-    uint64_t hash = text.size();
-    for (const char16_t unit : text) hash = (hash + Fold(unit)) * factor;
-    return hash ^ hash >> 32;
-}
+uint64_t FoldedHash(std::u16string_view text) { return Hash(text); }
+uint64_t FoldedHash(std::string_view text) { return Hash(text); }
 
 }  // namespace vxgui

@@ -18,12 +18,6 @@ void NameIndex::MakeRoom() {
     }
 }
 
-void NameIndex::Add(std::u16string_view name, size_t place) {
-    MakeRoom();
-    Put({FoldedHash(name), place});
-    ++used_;
-}
-
 void NameIndex::Clear() {
     std::ranges::fill(slots_, Slot());
     used_ = 0;

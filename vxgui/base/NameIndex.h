@@ -8,14 +8,15 @@ namespace vxgui {
 
 /// Where the entries of a list stand by their names, which are compared without regard to case.
 /// The names stay with the list: `nameAt(place)` answers the one at a place. Nothing is allocated
-/// for a name.
+/// for a name. Names are views of UTF-16, or of bytes that `FoldedHash` tells apart, in one index
+/// of one kind.
 class VXPLATFORM_API NameIndex {
 public:
     static constexpr size_t kNone = ~size_t{0};
 
     /// The place of the entry of that name, or `kNone`.
-    template <class NameAt>
-    size_t Find(std::u16string_view name, NameAt&& nameAt) const {
+    template <class Name, class NameAt>
+    size_t Find(Name name, NameAt&& nameAt) const {
         if (slots_.empty()) return kNone;
         const uint64_t hash = FoldedHash(name);
         for (size_t at = hash & Mask();; at = (at + 1) & Mask()) {
@@ -28,7 +29,12 @@ public:
     /// this before it grows never has an entry without its name.
     void MakeRoom();
     /// Adds a name that isn't there.
-    void Add(std::u16string_view name, size_t place);
+    template <class Name>
+    void Add(Name name, size_t place) {
+        MakeRoom();
+        Put({FoldedHash(name), place});
+        ++used_;
+    }
     /// Forgets all names, but keeps the room for them.
     void Clear();
 

@@ -22,9 +22,14 @@ public:
             throw Error(ErrorNumber::DuplicateKey, "Collection",
                         "This key is already associated with an element of this collection");
         }
-        positions_.MakeRoom();
-        entries_.push_back({std::move(item), key.Lower()});
-        if (!key.empty()) positions_.Add(key.view(), entries_.size() - 1);
+        Append(std::move(item), key);
+    }
+
+    /// Adds at the end. An item that stands under the key already is taken away first.
+    void AddReplacing(T item, const String& key) {
+        const size_t before = key.empty() ? NameIndex::kNone : PlaceOf(key);
+        if (before != NameIndex::kNone) Erase(before);
+        Append(std::move(item), key);
     }
 
     const T& Item(int32_t index) const { return entries_[Checked(index)].item; }
@@ -63,6 +68,12 @@ private:
             throw Error(ErrorNumber::Subscript, "Collection", "Subscript out of range");
         }
         return static_cast<size_t>(index - 1);
+    }
+
+    void Append(T item, const String& key) {
+        positions_.MakeRoom();
+        entries_.push_back({std::move(item), key.Lower()});
+        if (!key.empty()) positions_.Add(key.view(), entries_.size() - 1);
     }
 
     size_t PlaceOf(const String& key) const {

@@ -39,8 +39,7 @@ public:
     void Add(const Ref<T>& item, const String& key) { items_.Add(item, key); }
     /// Adds at the end. An item that stands under the key already is taken away first.
     void AddReplacing(const Ref<T>& item, const String& key) {
-        if (!key.empty()) Remove(key);
-        items_.Add(item, key);
+        items_.AddReplacing(item, key);
     }
     Ref<T> Item(int32_t index) const { return items_.Find(index); }
     Ref<T> Item(const String& key) const { return items_.Find(key); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -15,6 +17,21 @@ struct BagEntry {
     BagValue value;
 };
 
+/// One data item of a bag's contents. Text and bytes are views of these.
+struct BagItem {
+    enum class Kind { Other, Map, Text, Bytes, Boolean, Positive, Negative, Float, Double };
+
+    Kind kind = Kind::Other;
+    uint64_t number = 0;  ///< of a map: entries; of a negative integer n: -1 - n
+    double real = 0;
+    std::string_view data;
+};
+
+struct NamedItem {
+    std::string_view name;
+    BagItem value;
+};
+
 /// The entries as a CBOR map (RFC 8949) of definite length from text strings to simple values:
 /// true and false, integers, single and double floats, text strings and byte strings.
 ByteArray EncodeBag(const std::vector<BagEntry>& entries);
@@ -23,6 +40,29 @@ ByteArray EncodeBag(const std::vector<BagEntry>& entries);
 /// error 5, with the place, for anything else, bytes behind the map included; memory is taken
 /// for what is there, not for what a length claims. Names are not compared.
 std::vector<BagEntry> DecodeBag(const ByteArray& bytes);
+
+/// The same in place: all that `DecodeBag` refuses is refused, and nothing is copied.
+void DecodeItems(std::span<const uint8_t> bytes, std::vector<NamedItem>* items);
+/// The value of an item that `DecodeItems` gave, as a variant or a bag's value.
+template <class Value>
+Value ValueOf(const BagItem& item) {
+    switch (item.kind) {
+        case BagItem::Kind::Text:
+            return String(item.data);
+        case BagItem::Kind::Bytes:
+            return ByteArray(item.data.begin(), item.data.end());
+        case BagItem::Kind::Boolean:
+            return item.number != 0;
+        case BagItem::Kind::Positive:
+            return static_cast<int32_t>(item.number);
+        case BagItem::Kind::Negative:
+            return ~static_cast<int32_t>(item.number);
+        case BagItem::Kind::Float:
+            return static_cast<float>(item.real);
+        default:
+            return item.real;
+    }
+}
 
 /// Raises error 5 for contents that are no bag.
 [[noreturn]] void RefuseBag(const String& why);

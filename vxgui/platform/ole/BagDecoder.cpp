@@ -10,26 +10,8 @@
 namespace vxgui::ole {
 namespace {
 
-// One data item as the decoder meets it. Views lie in the contents; nothing is copied and nothing
-// raises while the C code runs.
-struct Item {
-    enum class Kind {
-        kOther,
-        kMap,
-        kText,
-        kBytes,
-        kBoolean,
-        kPositive,
-        kNegative,
-        kFloat,
-        kDouble
-    };
-
-    Kind kind = Kind::kOther;
-    uint64_t number = 0;  ///< of a map: entries; of a negative integer n: -1 - n
-    double real = 0;
-    std::string_view data;
-};
+// Nothing is copied and nothing raises while the C code runs.
+using Item = BagItem;
 
 template <Item::Kind kind, class T>
 void TakeNumber(void* item, T value) {
@@ -49,45 +31,43 @@ void TakeData(void* item, cbor_data data, size_t size) {
     static_cast<Item*>(item)->data = {reinterpret_cast<const char*>(data), size};
 }
 
-// Whatever has no line here (arrays, tags, null, lengths that are left open) stays `kOther`.
+// Whatever has no line here (arrays, tags, null, lengths that are left open) stays `Other`.
 cbor_callbacks Callbacks() {
     using Kind = Item::Kind;
     cbor_callbacks callbacks = cbor_empty_callbacks;
-    callbacks.map_start = TakeNumber<Kind::kMap, size_t>;
-    callbacks.string = TakeData<Kind::kText>;
-    callbacks.byte_string = TakeData<Kind::kBytes>;
-    callbacks.boolean = TakeNumber<Kind::kBoolean, bool>;
-    callbacks.uint8 = TakeNumber<Kind::kPositive, uint8_t>;
-    callbacks.uint16 = TakeNumber<Kind::kPositive, uint16_t>;
-    callbacks.uint32 = TakeNumber<Kind::kPositive, uint32_t>;
-    callbacks.uint64 = TakeNumber<Kind::kPositive, uint64_t>;
-    callbacks.negint8 = TakeNumber<Kind::kNegative, uint8_t>;
-    callbacks.negint16 = TakeNumber<Kind::kNegative, uint16_t>;
-    callbacks.negint32 = TakeNumber<Kind::kNegative, uint32_t>;
-    callbacks.negint64 = TakeNumber<Kind::kNegative, uint64_t>;
-    callbacks.float2 = TakeReal<Kind::kFloat, float>;
-    callbacks.float4 = TakeReal<Kind::kFloat, float>;
-    callbacks.float8 = TakeReal<Kind::kDouble, double>;
+    callbacks.map_start = TakeNumber<Kind::Map, size_t>;
+    callbacks.string = TakeData<Kind::Text>;
+    callbacks.byte_string = TakeData<Kind::Bytes>;
+    callbacks.boolean = TakeNumber<Kind::Boolean, bool>;
+    callbacks.uint8 = TakeNumber<Kind::Positive, uint8_t>;
+    callbacks.uint16 = TakeNumber<Kind::Positive, uint16_t>;
+    callbacks.uint32 = TakeNumber<Kind::Positive, uint32_t>;
+    callbacks.uint64 = TakeNumber<Kind::Positive, uint64_t>;
+    callbacks.negint8 = TakeNumber<Kind::Negative, uint8_t>;
+    callbacks.negint16 = TakeNumber<Kind::Negative, uint16_t>;
+    callbacks.negint32 = TakeNumber<Kind::Negative, uint32_t>;
+    callbacks.negint64 = TakeNumber<Kind::Negative, uint64_t>;
+    callbacks.float2 = TakeReal<Kind::Float, float>;
+    callbacks.float4 = TakeReal<Kind::Float, float>;
+    callbacks.float8 = TakeReal<Kind::Double, double>;
     return callbacks;
 }
 
 class Decoder {
 public:
-    explicit Decoder(const ByteArray& bytes) : bytes_(bytes) {}
+    explicit Decoder(std::span<const uint8_t> bytes) : bytes_(bytes) {}
 
-    std::vector<BagEntry> Decode() {
+    void Decode(std::vector<NamedItem>* items) {
         const Item map = Next();
-        if (map.kind != Item::Kind::kMap) Refuse("There is no map");
+        if (map.kind != Item::Kind::Map) Refuse("There is no map");
         // An entry takes two bytes at the least.
         if (map.number > (bytes_.size() - at_) / 2) Refuse("More entries than bytes are claimed");
         if (map.number > ApartmentLimits().bagEntries) Refuse("More entries than the limit allows");
-        std::vector<BagEntry> entries;
-        while (entries.size() < map.number) {
-            String name = Name();
-            entries.push_back({std::move(name), Value()});
+        while (items->size() < map.number) {
+            const std::string_view name = Name();
+            items->push_back({name, Value()});
         }
         if (at_ < bytes_.size()) Refuse("Something follows the map", at_);
-        return entries;
     }
 
 private:
@@ -103,44 +83,39 @@ private:
         return item;
     }
 
-    String Name() {
+    std::string_view Name() {
         const Item name = Next();
-        if (name.kind != Item::Kind::kText) Refuse("A name that is no text");
-        return Text(name);
+        if (name.kind != Item::Kind::Text) Refuse("A name that is no text");
+        CheckText(name);
+        return name.data;
     }
 
-    BagValue Value() {
+    Item Value() {
         const Item item = Next();
         switch (item.kind) {
-            case Item::Kind::kText:
-                return Text(item);
-            case Item::Kind::kBytes:
-                return ByteArray(item.data.begin(), item.data.end());
-            case Item::Kind::kBoolean:
-                return item.number != 0;
-            case Item::Kind::kPositive:
-                return Integer(item);
-            case Item::Kind::kNegative:
-                return ~Integer(item);
-            case Item::Kind::kFloat:
-                return static_cast<float>(item.real);
-            case Item::Kind::kDouble:
-                return item.real;
-            default:
+            case Item::Kind::Other:
+            case Item::Kind::Map:
                 Refuse("A value of a kind that no property has");
+            case Item::Kind::Text:
+                CheckText(item);
+                return item;
+            case Item::Kind::Positive:
+            case Item::Kind::Negative:
+                CheckInteger(item);
+                return item;
+            default:
+                return item;
         }
     }
 
-    String Text(const Item& item) {
+    void CheckText(const Item& item) {
         if (!IsUtf8(item.data)) Refuse("Text that is not UTF-8");
-        return item.data;
     }
 
-    int32_t Integer(const Item& item) {
+    void CheckInteger(const Item& item) {
         if (item.number > static_cast<uint64_t>(std::numeric_limits<int32_t>::max())) {
             Refuse("An integer of more than 32 bits");
         }
-        return static_cast<int32_t>(item.number);
     }
 
     // At the item that was read last, unless `place` says otherwise.
@@ -149,14 +124,27 @@ private:
         RefuseBag(String(why) + ", at byte " + String::FromInt(static_cast<int64_t>(place)));
     }
 
-    const ByteArray& bytes_;
+    const std::span<const uint8_t> bytes_;
     size_t start_ = 0;
     size_t at_ = 0;
 };
 
 }  // namespace
 
-std::vector<BagEntry> DecodeBag(const ByteArray& bytes) { return Decoder(bytes).Decode(); }
+void DecodeItems(std::span<const uint8_t> bytes, std::vector<NamedItem>* items) {
+    items->clear();
+    Decoder(bytes).Decode(items);
+}
+
+std::vector<BagEntry> DecodeBag(const ByteArray& bytes) {
+    std::vector<NamedItem> items;
+    DecodeItems(bytes, &items);
+    std::vector<BagEntry> entries;
+    entries.reserve(items.size());
+    for (const NamedItem& item : items)
+        entries.push_back({item.name, ValueOf<BagValue>(item.value)});
+    return entries;
+}
 
 void RefuseBag(const String& why) { throw Error(ErrorNumber::InvalidCall, "PropertyBag", why); }
 

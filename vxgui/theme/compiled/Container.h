@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "vxgui/base/Variant.h"
@@ -64,6 +65,7 @@ VXGUI_LOCAL bool IsContainer(const ByteArray& file);
 
 /// Blocks of bytes, each with its size before it.
 VXGUI_LOCAL ByteArray JoinRecords(const std::vector<ByteArray>& records);
-VXGUI_LOCAL std::vector<ByteArray> SplitRecords(const ByteArray& bytes);
+/// The blocks where they stand in `bytes`.
+VXGUI_LOCAL std::vector<std::span<const uint8_t>> SplitRecords(std::span<const uint8_t> bytes);
 
 }  // namespace vxgui::compiled

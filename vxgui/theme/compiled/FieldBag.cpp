@@ -12,24 +12,28 @@ constexpr char kSource[] = "FieldReader";
 
 }  // namespace
 
-void FieldReader::operator()(const String& name, int32_t& field) const {
-    field = IntegerFrom(bag_->ReadProperty(name, field), kSource);
+void FieldReader::operator()(std::string_view name, int32_t& field) const {
+    const Variant value = bag_->ReadProperty(name);
+    if (!value.IsEmpty()) field = IntegerFrom(value, kSource);
 }
 
-void FieldReader::operator()(const String& name, uint32_t& field) const {
-    const auto before = static_cast<int32_t>(field);
-    field = static_cast<uint32_t>(IntegerFrom(bag_->ReadProperty(name, before), kSource));
+void FieldReader::operator()(std::string_view name, uint32_t& field) const {
+    auto number = static_cast<int32_t>(field);
+    (*this)(name, number);
+    field = static_cast<uint32_t>(number);
 }
 
-void FieldReader::operator()(const String& name, uint8_t& field) const {
-    field = ByteFrom(bag_->ReadProperty(name, int32_t{field}), kSource);
+void FieldReader::operator()(std::string_view name, uint8_t& field) const {
+    const Variant value = bag_->ReadProperty(name);
+    if (!value.IsEmpty()) field = ByteFrom(value, kSource);
 }
 
-void FieldReader::operator()(const String& name, String& field) const {
-    field = TextFrom(bag_->ReadProperty(name, field), kSource);
+void FieldReader::operator()(std::string_view name, String& field) const {
+    const Variant value = bag_->ReadProperty(name);
+    if (!value.IsEmpty()) field = TextFrom(value, kSource);
 }
 
-void FieldReader::Copy(const String& name, uint8_t* field, size_t size) const {
+void FieldReader::Copy(std::string_view name, uint8_t* field, size_t size) const {
     const Variant value = bag_->ReadProperty(name);
     if (value.IsEmpty()) return;
     const auto* bytes = value.As<ByteArray>();

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "vxgui/platform/ole.h"
+#include "vxgui/platform/ole_bag.h"
 
 /// Fields as values of a property bag.
 namespace vxgui::compiled {
@@ -32,24 +33,24 @@ private:
 };
 
 /// Sets each field that it is called with; one that the bag lacks keeps its value. Raises for a
-/// value of the wrong kind.
+/// value of the wrong kind. It stands for the bag, which must outlive it.
 class VXGUI_LOCAL FieldReader {
 public:
-    explicit FieldReader(const Ref<ole::PropertyBag>& bag) : bag_(bag) {}
+    explicit FieldReader(ole::BagReader& bag) : bag_(&bag) {}
 
-    void operator()(const String& name, int32_t& field) const;
-    void operator()(const String& name, uint32_t& field) const;
-    void operator()(const String& name, uint8_t& field) const;
-    void operator()(const String& name, String& field) const;
+    void operator()(std::string_view name, int32_t& field) const;
+    void operator()(std::string_view name, uint32_t& field) const;
+    void operator()(std::string_view name, uint8_t& field) const;
+    void operator()(std::string_view name, String& field) const;
     template <size_t Size>
-    void operator()(const String& name, std::array<uint8_t, Size>& field) const {
+    void operator()(std::string_view name, std::array<uint8_t, Size>& field) const {
         Copy(name, field.data(), Size);
     }
 
 private:
-    void Copy(const String& name, uint8_t* field, size_t size) const;
+    void Copy(std::string_view name, uint8_t* field, size_t size) const;
 
-    Ref<ole::PropertyBag> bag_;
+    ole::BagReader* bag_;
 };
 
 }  // namespace vxgui::compiled

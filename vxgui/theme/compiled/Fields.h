@@ -51,30 +51,31 @@ public:
         visit("StateFrames", item.frames_.frames);
         visit("ImageFlags", item.imageFlags_);
         visit("ImageAlpha", item.imageAlpha_);
-        ForEachSide("ImageMargin", item.imageMargin_, visit);
-        ForEachSide("ContentMargin", item.contentMargin_, visit);
+        ForEachSide({"ImageMarginLeft", "ImageMarginTop", "ImageMarginRight", "ImageMarginBottom"}, item.imageMargin_, visit);
+        ForEachSide({"ContentMarginLeft", "ContentMarginTop", "ContentMarginRight", "ContentMarginBottom"}, item.contentMargin_, visit);
         visit("GlyphFrames", item.glyphFrameCount_);
         visit("GlyphFrameOrder", item.glyphFrames_.order);
         visit("GlyphStateFrames", item.glyphFrames_.frames);
         visit("GlyphAlpha", item.glyphAlpha_);
         visit("GlyphAlign", item.glyphAlign_);
-        ForEachSide("GlyphMargin", item.glyphMargin_, visit);
+        ForEachSide({"GlyphMarginLeft", "GlyphMarginTop", "GlyphMarginRight", "GlyphMarginBottom"}, item.glyphMargin_, visit);
         visit("IconWidth", item.iconWidth_);
         visit("IconHeight", item.iconHeight_);
         visit("IconAlign", item.iconAlign_);
         visit("IconTransMode", item.iconTransMode_);
-        ForEachSide("IconMargin", item.iconMargin_, visit);
+        ForEachSide({"IconMarginLeft", "IconMarginTop", "IconMarginRight", "IconMarginBottom"}, item.iconMargin_, visit);
         visit("BackgroundEffect", item.backgroundEffect_);
     }
 
 private:
+    using SideNames = const char* const (&)[4];
+
     template <class Sides, class Visit>
-    static void ForEachSide(const char* name, Sides& margin, Visit visit) {
-        const String start(name);
-        visit(start + "Left", margin.left);
-        visit(start + "Top", margin.top);
-        visit(start + "Right", margin.right);
-        visit(start + "Bottom", margin.bottom);
+    static void ForEachSide(SideNames names, Sides& margin, Visit visit) {
+        visit(names[0], margin.left);
+        visit(names[1], margin.top);
+        visit(names[2], margin.right);
+        visit(names[3], margin.bottom);
     }
 };
 

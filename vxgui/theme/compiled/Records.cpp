@@ -23,8 +23,8 @@ ByteArray JoinRecords(const std::vector<ByteArray>& records) {
     return bytes;
 }
 
-std::vector<ByteArray> SplitRecords(const ByteArray& bytes) {
-    std::vector<ByteArray> records;
+std::vector<std::span<const uint8_t>> SplitRecords(std::span<const uint8_t> bytes) {
+    std::vector<std::span<const uint8_t>> records;
     for (size_t at = 0; at < bytes.size();) {
         const size_t rest = bytes.size() - at;
         const size_t size = rest < kSizeBytes ? rest : LoadLittle<uint32_t>(bytes.data() + at);
@@ -32,8 +32,7 @@ std::vector<ByteArray> SplitRecords(const ByteArray& bytes) {
             RaiseDamaged("damaged: a record goes beyond its section");
         if (records.size() == ApartmentLimits().skinRecords)
             RaiseDamaged("refused: too many records in a section");
-        const auto begin = bytes.begin() + static_cast<std::ptrdiff_t>(at + kSizeBytes);
-        records.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(size));
+        records.push_back(bytes.subspan(at + kSizeBytes, size));
         at += kSizeBytes + size;
     }
     return records;

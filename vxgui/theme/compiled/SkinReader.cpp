@@ -8,12 +8,6 @@
 namespace vxgui::compiled {
 namespace {
 
-Ref<ole::PropertyBag> BagOf(const ByteArray& bytes) {
-    Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
-    bag->Contents(bytes);
-    return bag;
-}
-
 // What a number from 1 stands for; none for 0.
 template <class T>
 Ref<T> Numbered(const std::vector<Ref<T>>& objects, int32_t number) {
@@ -23,7 +17,7 @@ Ref<T> Numbered(const std::vector<Ref<T>>& objects, int32_t number) {
     return objects[static_cast<size_t>(number) - 1];
 }
 
-int32_t NumberIn(const FieldReader& read, const String& name) {
+int32_t NumberIn(const FieldReader& read, std::string_view name) {
     int32_t number = 0;
     read(name, number);
     return number;
@@ -43,7 +37,7 @@ void AddToPool(const Ref<Pool>& pool, int32_t inPool, const std::vector<Ref<T>>&
 
 template <class Read>
 void ForEachRecord(const ByteArray& bytes, Read read) {
-    for (const ByteArray& record : SplitRecords(bytes)) read(record);
+    for (const std::span<const uint8_t> record : SplitRecords(bytes)) read(record);
 }
 
 }  // namespace
@@ -64,11 +58,11 @@ void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
         case SectionKind::Picture:
             return ReadPicture(bytes);
         case SectionKind::Styles:
-            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadStyle(record); });
+            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadStyle(record); });
         case SectionKind::Fonts:
-            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadFont(record); });
+            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadFont(record); });
         case SectionKind::Items:
-            return ForEachRecord(bytes, [this](const ByteArray& record) { ReadItem(record); });
+            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadItem(record); });
         case SectionKind::Notes:
             skin_.notes = std::string(bytes.begin(), bytes.end());
             return;
@@ -77,18 +71,22 @@ void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
 }
 
 void SkinReader::ReadSet(const ByteArray& bytes) {
-    const Ref<ole::PropertyBag> bag = BagOf(bytes);
-    const FieldReader read(bag);
-    if (bag->Has("Fonts")) skin_.set->Fonts(New<LFonts>());
-    if (bag->Has("TextStyles")) skin_.set->TextStyles(New<TextStyles>());
-    if (bag->Has("NoItems")) skin_.set->ThemeItems(nullptr);
+    const FieldReader read = Open(bytes);
+    if (bag_.Has("Fonts")) skin_.set->Fonts(New<LFonts>());
+    if (bag_.Has("TextStyles")) skin_.set->TextStyles(New<TextStyles>());
+    if (bag_.Has("NoItems")) skin_.set->ThemeItems(nullptr);
     fontsInPool_ = NumberIn(read, "Fonts");
     stylesInPool_ = NumberIn(read, "TextStyles");
-    const Variant colours = bag->ReadProperty("Colours");
+    const Variant colours = bag_.ReadProperty("Colours");
     const auto* stored = colours.As<ByteArray>();
     for (size_t at = 0; stored && at + 4 <= stored->size(); at += 4)
         skin_.set->Colours().Set(static_cast<int32_t>(at / 4),
                                  static_cast<int32_t>(LoadLittle<uint32_t>(&(*stored)[at])));
+}
+
+FieldReader SkinReader::Open(std::span<const uint8_t> record) {
+    bag_.Open(record);
+    return FieldReader(bag_);
 }
 
 void SkinReader::ReadPicture(const ByteArray& bytes) {
@@ -98,16 +96,16 @@ void SkinReader::ReadPicture(const ByteArray& bytes) {
     pictures_.push_back(picture);
 }
 
-void SkinReader::ReadStyle(const ByteArray& record) {
-    const FieldReader read(BagOf(record));
+void SkinReader::ReadStyle(std::span<const uint8_t> record) {
+    const FieldReader read = Open(record);
     const Ref<TextStyle> style = New<TextStyle>();
     ForEachStyleField(*style, read);
     styles_.push_back(style);
     AddToPool(skin_.set->TextStyles(), stylesInPool_, styles_, KeyIn(read));
 }
 
-void SkinReader::ReadFont(const ByteArray& record) {
-    const FieldReader read(BagOf(record));
+void SkinReader::ReadFont(std::span<const uint8_t> record) {
+    const FieldReader read = Open(record);
     const Ref<LFont> font = New<LFont>();
     ForEachFontField(*font, read);
     font->DrawingStyle = Numbered(styles_, NumberIn(read, "DrawingStyle"));
@@ -117,9 +115,9 @@ void SkinReader::ReadFont(const ByteArray& record) {
 
 // Calls `add(scale, strip)` for each strip that is supplied for a scale.
 template <class Add>
-void SkinReader::ReadStrips(const FieldReader& read, const String& name, Add add) const {
+void SkinReader::ReadStrips(const FieldReader& read, const std::string& name, Add add) const {
     for (int32_t n = 1;; ++n) {
-        const String number = String::FromInt(n);
+        const std::string number = std::to_string(n);
         const int32_t thousandths = NumberIn(read, name + "Scale" + number);
         if (thousandths == 0) return;
         const auto strip = Numbered(pictures_, NumberIn(read, name + "Strip" + number));
@@ -127,8 +125,8 @@ void SkinReader::ReadStrips(const FieldReader& read, const String& name, Add add
     }
 }
 
-void SkinReader::ReadItem(const ByteArray& record) {
-    const FieldReader read(BagOf(record));
+void SkinReader::ReadItem(std::span<const uint8_t> record) {
+    const FieldReader read = Open(record);
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->Image(Numbered(pictures_, NumberIn(read, "Image")));
     item->Glyph(Numbered(pictures_, NumberIn(read, "Glyph")));
@@ -136,7 +134,7 @@ void SkinReader::ReadItem(const ByteArray& record) {
     ReadStrips(read, "Glyph", [&](auto... strip) { item->AddGlyphStrip(strip...); });
     ItemFields::ForEach(*item, read);
     for (int32_t state = 0; state < E_ItemStateMax; ++state) {
-        const String number = String::FromInt(state);
+        const std::string number = std::to_string(state);
         if (const auto font = Numbered(fonts_, NumberIn(read, "Font" + number)))
             item->StateFont(state, font);
         if (const auto style = Numbered(styles_, NumberIn(read, "TextStyle" + number)))

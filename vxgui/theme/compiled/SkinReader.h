@@ -16,16 +16,19 @@ public:
     CompiledSkin Read();
 
 private:
+    /// The fields of a record, until the next one is opened.
+    FieldReader Open(std::span<const uint8_t> record);
     void ReadSection(SectionKind kind, const ByteArray& bytes);
     void ReadSet(const ByteArray& bytes);
     void ReadPicture(const ByteArray& bytes);
-    void ReadFont(const ByteArray& record);
-    void ReadStyle(const ByteArray& record);
+    void ReadFont(std::span<const uint8_t> record);
+    void ReadStyle(std::span<const uint8_t> record);
     template <class Add>
-    void ReadStrips(const FieldReader& read, const String& name, Add add) const;
-    void ReadItem(const ByteArray& record);
+    void ReadStrips(const FieldReader& read, const std::string& name, Add add) const;
+    void ReadItem(std::span<const uint8_t> record);
 
     const Container& container_;
+    ole::BagReader bag_;
     CompiledSkin skin_;
     int32_t fontsInPool_ = 0;
     int32_t stylesInPool_ = 0;
