@@ -8,7 +8,7 @@
 namespace vxgui::bench {
 namespace {
 
-auto Ours(String SetOnDisk::* form) {
+auto Ours(String SetOnDisk::*form) {
     return [=] {
         auto disk = std::make_shared<SetOnDisk>();
         return [=] { benchmark::DoNotOptimize(LoadThemeSetFile((*disk).*form)); };

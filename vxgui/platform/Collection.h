@@ -83,7 +83,8 @@ private:
     size_t Position(const String& key) const {
         const size_t at = PlaceOf(key);
         if (at == NameIndex::kNone) {
-            throw Error(ErrorNumber::InvalidCall, "Collection", "Invalid procedure call or argument");
+            throw Error(ErrorNumber::InvalidCall, "Collection",
+                        "Invalid procedure call or argument");
         }
         return at;
     }

@@ -38,9 +38,7 @@ public:
     /// Adds at the end; a key that is there already raises the collection's error.
     void Add(const Ref<T>& item, const String& key) { items_.Add(item, key); }
     /// Adds at the end. An item that stands under the key already is taken away first.
-    void AddReplacing(const Ref<T>& item, const String& key) {
-        items_.AddReplacing(item, key);
-    }
+    void AddReplacing(const Ref<T>& item, const String& key) { items_.AddReplacing(item, key); }
     Ref<T> Item(int32_t index) const { return items_.Find(index); }
     Ref<T> Item(const String& key) const { return items_.Find(key); }
     int32_t Count() const { return items_.Count(); }

@@ -3,9 +3,12 @@
 
 #include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
+#include "vxgui/surface/MosaicPaint.h"
+#include "vxgui/theme/FrameMosaic.h"
 #include "vxgui/theme/NineSlice.h"
 #include "vxgui/theme/RectLayout.h"
 #include "vxgui/theme/ThemeItem.h"
+#include "vxgui/theme/TileSteps.h"
 
 namespace vxgui {
 namespace {
@@ -23,26 +26,6 @@ FrameRect FrameOf(const cAlphaDIBSection& strip, int32_t count, bool vertical, i
     along.size /= count;
     along.start = along.size * frame;
     return rect;
-}
-
-// Where tile n starts in its band. Both tiles at an edge take it from here, so that they share it.
-int64_t TileEdge(const Band& band, int64_t n) {
-    return band.pitch > 0 ? static_cast<int64_t>(static_cast<double>(n) * band.pitch + 0.5)
-                          : n * band.source.size;
-}
-
-// Walks a band in steps of its source, the last one cut; or takes it whole, to be stretched.
-template <class Paint>
-void ForEachStep(const Band& band, bool tiled, Paint paint) {
-    if (!tiled) return paint(band.target, band.source);
-    const int64_t end = band.target.size;
-    for (int64_t n = 0, at = 0; at < end; ++n) {
-        const int64_t next = std::min(TileEdge(band, n + 1), end);
-        const auto size = static_cast<int32_t>(next - at);
-        paint(Span{static_cast<int32_t>(band.target.start + at), size},
-              Span{band.source.start, size});
-        at = next;
-    }
 }
 
 // The pitch counts for the strip that it was made with, whose middle is the widest tile, and only
@@ -92,13 +75,33 @@ void CopyAndFill(const Band& x, const Band& y, Paint paint) {
 }
 
 template <class Paint>
-void PaintCentre(const Band& x, const Band& y, int32_t tile, Paint paint) {
+void PaintCentre(const Band& x, const Band& y, int32_t tile, const FrameTiling& tiling,
+                 Paint paint) {
     if (x.target.size <= 0 || y.target.size <= 0) return;
     if (tile == CopyXYFillRest) return CopyAndFill(x, y, paint);
-    // A single pixel is stretched: the cheap way to fill.
-    const bool tiledX = (tile == TileXTileY || tile == TileXStretchY) && x.source.size > 1;
-    const bool tiledY = (tile == TileXTileY || tile == StretchXTileY) && y.source.size > 1;
-    ForEachPiece(x, y, tiledX, tiledY, paint);
+    ForEachPiece(x, y, tiling.across, tiling.down, paint);
+}
+
+// A source of a single pixel is stretched: the cheap way to fill.
+FrameTiling TilingOf(const ThemeItem& item, int32_t width, int32_t height) {
+    const int32_t tile = item.Tile();
+    const bool canX = width > 1, canY = height > 1;
+    return {.left = item.TileLeft() && canY,
+            .top = item.TileTop() && canX,
+            .right = item.TileRight() && canY,
+            .bottom = item.TileBottom() && canX,
+            .across = (tile == TileXTileY || tile == TileXStretchY) && canX,
+            .down = (tile == TileXTileY || tile == StretchXTileY) && canY};
+}
+
+// Pieces that don't overlap are blended in one pass, which leaves the same pixels.
+bool PaintAsOne(gdi::HDC dc, const cAlphaDIBSection& image, const SlicedAxis& x,
+                const SlicedAxis& y, const FrameTiling& tiling, uint8_t alpha, bool perPixel) {
+    if (!MayPaintMosaics(image) || !FrameMosaic::Fits(x, y, image.Width(), image.Height()))
+        return false;
+    return FrameMosaic(x, y, tiling).Paint([&](int32_t top, auto bands) {
+        return AlphaPaintMosaic(image, dc, x.near.target.start, top, bands, alpha, perPixel);
+    });
 }
 
 }  // namespace
@@ -130,19 +133,24 @@ void ThemeItem::PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int
     SlicedAxis y = SliceAxis({yD, hD}, rect.y, imageMargin_.top, imageMargin_.bottom);
     x.middle.pitch = TilePitchOf(x.middle, tilePitch_.x);
     y.middle.pitch = TilePitchOf(y.middle, tilePitch_.y);
-    const bool canTileX = x.middle.source.size > 1, canTileY = y.middle.source.size > 1;
+    const FrameTiling tiling = TilingOf(*this, x.middle.source.size, y.middle.source.size);
+    const bool perPixel = imageFlags_ & kPerPixel;
+    if ((perPixel || IsTranslucent()) && Tile() != CopyXYFillRest &&
+        PaintAsOne(hDC, *image_, x, y, tiling, imageAlpha_, perPixel)) {
+        return;
+    }
     const auto paint = [&](Span targetX, Span targetY, Span sourceX, Span sourceY) {
         PaintImagePiece(hDC, targetX.start, targetY.start, targetX.size, targetY.size,
                         sourceX.start, sourceY.start, sourceX.size, sourceY.size);
     };
     ForEachPiece(x.near, y.near, false, false, paint);
-    ForEachPiece(x.middle, y.near, TileTop() && canTileX, false, paint);
+    ForEachPiece(x.middle, y.near, tiling.top, false, paint);
     ForEachPiece(x.far, y.near, false, false, paint);
-    ForEachPiece(x.near, y.middle, false, TileLeft() && canTileY, paint);
-    PaintCentre(x.middle, y.middle, Tile(), paint);
-    ForEachPiece(x.far, y.middle, false, TileRight() && canTileY, paint);
+    ForEachPiece(x.near, y.middle, false, tiling.left, paint);
+    PaintCentre(x.middle, y.middle, Tile(), tiling, paint);
+    ForEachPiece(x.far, y.middle, false, tiling.right, paint);
     ForEachPiece(x.near, y.far, false, false, paint);
-    ForEachPiece(x.middle, y.far, TileBottom() && canTileX, false, paint);
+    ForEachPiece(x.middle, y.far, tiling.bottom, false, paint);
     ForEachPiece(x.far, y.far, false, false, paint);
 }
 

@@ -26,7 +26,7 @@ TEST(BagReader, GivesWhatTheBagGivesInWhateverOrderAndCase) {
     const ByteArray contents = bag->Contents();
     BagReader reader;
     reader.Open(contents);
-    const char* const names[] = {"Width", "Below", "Shown", "Text",  "Bytes", "Half",
+    const char* const names[] = {"Width", "Below", "Shown", "Text",   "Bytes", "Half",
                                  "Tenth", "WIDTH", "tenth", "Absent", "Below", "below"};
     for (const char* name : names) {
         EXPECT_EQ(reader.ReadProperty(name), bag->ReadProperty(name)) << name;

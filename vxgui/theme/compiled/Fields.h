@@ -51,19 +51,24 @@ public:
         visit("StateFrames", item.frames_.frames);
         visit("ImageFlags", item.imageFlags_);
         visit("ImageAlpha", item.imageAlpha_);
-        ForEachSide({"ImageMarginLeft", "ImageMarginTop", "ImageMarginRight", "ImageMarginBottom"}, item.imageMargin_, visit);
-        ForEachSide({"ContentMarginLeft", "ContentMarginTop", "ContentMarginRight", "ContentMarginBottom"}, item.contentMargin_, visit);
+        ForEachSide({"ImageMarginLeft", "ImageMarginTop", "ImageMarginRight", "ImageMarginBottom"},
+                    item.imageMargin_, visit);
+        ForEachSide(
+            {"ContentMarginLeft", "ContentMarginTop", "ContentMarginRight", "ContentMarginBottom"},
+            item.contentMargin_, visit);
         visit("GlyphFrames", item.glyphFrameCount_);
         visit("GlyphFrameOrder", item.glyphFrames_.order);
         visit("GlyphStateFrames", item.glyphFrames_.frames);
         visit("GlyphAlpha", item.glyphAlpha_);
         visit("GlyphAlign", item.glyphAlign_);
-        ForEachSide({"GlyphMarginLeft", "GlyphMarginTop", "GlyphMarginRight", "GlyphMarginBottom"}, item.glyphMargin_, visit);
+        ForEachSide({"GlyphMarginLeft", "GlyphMarginTop", "GlyphMarginRight", "GlyphMarginBottom"},
+                    item.glyphMargin_, visit);
         visit("IconWidth", item.iconWidth_);
         visit("IconHeight", item.iconHeight_);
         visit("IconAlign", item.iconAlign_);
         visit("IconTransMode", item.iconTransMode_);
-        ForEachSide({"IconMarginLeft", "IconMarginTop", "IconMarginRight", "IconMarginBottom"}, item.iconMargin_, visit);
+        ForEachSide({"IconMarginLeft", "IconMarginTop", "IconMarginRight", "IconMarginBottom"},
+                    item.iconMargin_, visit);
         visit("BackgroundEffect", item.backgroundEffect_);
     }
 

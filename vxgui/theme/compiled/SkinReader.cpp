@@ -58,11 +58,14 @@ void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
         case SectionKind::Picture:
             return ReadPicture(bytes);
         case SectionKind::Styles:
-            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadStyle(record); });
+            return ForEachRecord(bytes,
+                                 [this](std::span<const uint8_t> record) { ReadStyle(record); });
         case SectionKind::Fonts:
-            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadFont(record); });
+            return ForEachRecord(bytes,
+                                 [this](std::span<const uint8_t> record) { ReadFont(record); });
         case SectionKind::Items:
-            return ForEachRecord(bytes, [this](std::span<const uint8_t> record) { ReadItem(record); });
+            return ForEachRecord(bytes,
+                                 [this](std::span<const uint8_t> record) { ReadItem(record); });
         case SectionKind::Notes:
             skin_.notes = std::string(bytes.begin(), bytes.end());
             return;

@@ -1,0 +1,152 @@
+#include "vxgui/theme/FrameMosaic.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "vxgui/platform/gdi.h"
+#include "vxgui/platform/gdi_shapes.h"
+#include "vxgui/surface/MosaicPaint.h"
+#include "vxgui/theme/ThemeItem.h"
+
+namespace vxgui {
+namespace {
+
+/// Stands in for a surface without doing anything else: it is asked piece by piece.
+class StandIn : public cAlphaDIBSection {};
+
+constexpr int32_t kWidth = 70, kHeight = 50;
+
+struct Canvas {
+    explicit Canvas(bool bottomUp)
+        : dc(gdi::CreateHostDC({words.data(), kWidth, kHeight, kWidth * 4, bottomUp})) {}
+    ~Canvas() { gdi::DeleteDC(dc); }
+    std::vector<uint32_t> words = [] {
+        std::mt19937 random(3);
+        std::vector<uint32_t> noise(kWidth * kHeight);
+        for (uint32_t& word : noise) word = static_cast<uint32_t>(random());
+        return noise;
+    }();
+    gdi::HDC dc;
+};
+
+class Dice {
+public:
+    explicit Dice(uint32_t seed) : random_(seed) {}
+    int32_t From(int32_t low, int32_t high) {
+        return low + static_cast<int32_t>(random_() % static_cast<uint32_t>(high - low + 1));
+    }
+
+private:
+    std::mt19937 random_;
+};
+
+template <class Surface>
+Ref<ThemeItem> ItemOf(Dice dice) {
+    const Ref<cAlphaDIBSection> image = New<Surface>();
+    const int32_t count = dice.From(1, 3);
+    image->Create(dice.From(1, 24) * count, dice.From(1, 24));
+    for (ARGB& pixel : image->Pixels()) {
+        const auto alpha = static_cast<uint8_t>(dice.From(0, 2) * 100);
+        pixel = {static_cast<uint8_t>(dice.From(0, 255)), static_cast<uint8_t>(dice.From(0, 255)),
+                 static_cast<uint8_t>(dice.From(0, 255)), alpha};
+    }
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->SetImage(image, count, 0, dice.From(0, 3) ? PerPixel : Normal,
+                   static_cast<uint8_t>(dice.From(0, 2) ? 255 : dice.From(1, 252)));
+    item->SetImageMargin(dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9));
+    item->SetTile(dice.From(0, 5), dice.From(0, 1), dice.From(0, 1), dice.From(0, 1),
+                  dice.From(0, 1));
+    item->FrameCount(count + (dice.From(0, 20) == 0));  // a frame that may be partly outside
+    return item;
+}
+
+gdi::HRGN TwoBoxes(Dice& dice) {
+    const auto box = [&] {
+        return gdi::CreateRectRgn(dice.From(-5, 40), dice.From(-5, 30), dice.From(10, 80),
+                                  dice.From(10, 60));
+    };
+    const gdi::HRGN both = box(), other = box();
+    gdi::CombineRgn(both, both, other, gdi::RGN_XOR);
+    gdi::DeleteObject(other);
+    return both;
+}
+
+template <class Surface>
+std::vector<uint32_t> Painted(Dice dice) {
+    Canvas canvas(dice.From(0, 1) == 1);
+    const gdi::HRGN clip = dice.From(0, 2) ? nullptr : TwoBoxes(dice);
+    if (clip) gdi::SelectObject(canvas.dc, clip);
+    const int32_t x = dice.From(-30, 60), y = dice.From(-30, 40);
+    const int32_t w = dice.From(-1, 90), h = dice.From(-1, 70), frame = dice.From(0, 2);
+    const Ref<ThemeItem> item = ItemOf<Surface>(dice);
+    item->DrawBackground(canvas.dc, x, y, w, h, frame, -1);
+    if (clip) gdi::DeleteObject(clip);
+    return canvas.words;
+}
+
+TEST(FrameMosaic, LeavesThePixelsThatThePiecesLeave) {
+    for (uint32_t seed = 0; seed < 20000; ++seed) {
+        ASSERT_EQ(Painted<cAlphaDIBSection>(Dice(seed)), Painted<StandIn>(Dice(seed))) << seed;
+    }
+}
+
+TEST(FrameMosaic, IsForTheLibrarysOwnBlendAndSurfaceAlone) {
+    const Ref<cAlphaDIBSection> surface = New<cAlphaDIBSection>();
+    EXPECT_TRUE(MayPaintMosaics(*surface));
+    EXPECT_FALSE(MayPaintMosaics(*New<StandIn>()));
+}
+
+SlicedAxis Sliced(int32_t start, int32_t size) { return SliceAxis({start, size}, {0, 30}, 4, 4); }
+
+TEST(FrameMosaic, FitsWhereNoBandsOverlapAndNoneIsTooLarge) {
+    const SlicedAxis fits = Sliced(-7, 100);
+    const auto bothFit = [](const SlicedAxis& x, const SlicedAxis& y) {
+        return FrameMosaic::Fits(x, y, 30, 30);
+    };
+    EXPECT_TRUE(bothFit(fits, fits));
+    EXPECT_TRUE(bothFit(fits, Sliced(0, 8)));  // no middle
+    EXPECT_FALSE(FrameMosaic::Fits(fits, fits, 29, 30));
+    EXPECT_FALSE(FrameMosaic::Fits(fits, fits, 30, 29));
+    for (const SlicedAxis& other :
+         {Sliced(0, 7), Sliced(0, 0), Sliced(0, -3), Sliced(0, FrameMosaic::kMost + 1),
+          Sliced(INT32_MAX - 50, 100), SliceAxis({0, 100}, {0, 30}, -1, 4)}) {
+        EXPECT_FALSE(bothFit(fits, other));
+        EXPECT_FALSE(bothFit(other, fits));
+    }
+    EXPECT_TRUE(bothFit(fits, Sliced(0, FrameMosaic::kMost)));
+}
+
+/// The tops and bands of each run of rows, as (top, bands, rows in each).
+std::vector<std::array<size_t, 3>> RunsOf(const FrameTiling& tiling) {
+    const SlicedAxis axis = Sliced(10, 100);
+    std::vector<std::array<size_t, 3>> runs;
+    FrameMosaic(axis, axis, tiling).Paint([&](int32_t top, auto bands) {
+        runs.push_back({static_cast<size_t>(top), bands.size(), bands[0].rows.size()});
+        return true;
+    });
+    return runs;
+}
+
+TEST(FrameMosaic, IsOneBandUnlessItsTilingsDiffer) {
+    using Runs = std::vector<std::array<size_t, 3>>;
+    EXPECT_EQ(RunsOf({}), (Runs{{10, 1, 100}}));
+    EXPECT_EQ(RunsOf({true, true, true, true, true, true}), (Runs{{10, 1, 100}}));
+    EXPECT_EQ(RunsOf({.left = true}), (Runs{{10, 2, 100}}));
+    EXPECT_EQ(RunsOf({.down = true}), (Runs{{10, 3, 100}}));
+    EXPECT_EQ(RunsOf({.top = true}), (Runs{{10, 1, 4}, {14, 1, 96}}));
+    EXPECT_EQ(RunsOf({.across = true}), (Runs{{10, 1, 4}, {14, 1, 92}, {106, 1, 4}}));
+}
+
+TEST(FrameMosaic, EndsWhereTheFirstRunCannotBePainted) {
+    const SlicedAxis axis = Sliced(10, 100);
+    const FrameMosaic mosaic(axis, axis, {.across = true});
+    int calls = 0;
+    EXPECT_FALSE(mosaic.Paint([&](int32_t, auto) { return ++calls < 0; }));
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(mosaic.Paint([&](int32_t, auto) { return ++calls == 2; }));
+    EXPECT_EQ(calls, 4);
+}
+
+}  // namespace
+}  // namespace vxgui

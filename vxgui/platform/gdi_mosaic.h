@@ -1,0 +1,33 @@
+#pragma once
+
+#include <span>
+
+#include "vxgui/platform/gdi_merge.h"
+
+namespace vxgui::gdi {
+
+/// Columns of a mosaic that stand side by side and show the same source rows.
+struct MosaicBand {
+    std::span<const int32_t> columns;  ///< the source column that each column shows
+    std::span<const int32_t> rows;     ///< the source row that each row of the mosaic shows
+};
+
+/// A picture laid out by tables, so that many blits that don't overlap become one: bands side by
+/// side, all of one height.
+struct Mosaic {
+    HDC source;
+    std::span<const MosaicBand> bands;
+};
+
+/// Fills a table with what a blit shows that stretches `sourceSize` source pixels from
+/// `sourceStart` on to the table's size. Both sizes are above 0.
+VXPLATFORM_API void TabulateStretch(int32_t sourceStart, int32_t sourceSize,
+                                    std::span<int32_t> sources);
+
+/// Has `merger` change the pixels of `dc` from (x, y) on by those of the mosaic; the clip counts.
+/// False, with nothing done, unless both contexts have 32-bit pixels, apart in memory, the bands
+/// are of one height, and every entry of a table lies inside the source. Then the caller does it
+/// blit by blit; a platform that can't look behind its contexts always says so.
+VXPLATFORM_API bool MergeMosaic(HDC dc, int x, int y, const Mosaic& mosaic, WordMerger& merger);
+
+}  // namespace vxgui::gdi
