@@ -1,6 +1,7 @@
 #include "vxgui/base/CaseFolding.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace vxgui {
 namespace {
@@ -35,14 +36,6 @@ bool Equal(View a, View b) {
                       [](auto x, auto y) { return x == y || Fold(x) == Fold(y); });
 }
 
-template <class View>
-uint64_t Hash(View text) {
-    static const uint64_t factor = Factor();
-    uint64_t hash = text.size();
-    for (const auto unit : text) hash = (hash + Fold(unit)) * factor;
-    return hash ^ hash >> 32;
-}
-
 }  // namespace
 
 // Simple case folding of the letters that define files use: ASCII, Latin-1, Latin Extended-A,
@@ -52,7 +45,26 @@ char16_t FoldUnit(char16_t unit) { return Fold(unit); }
 bool EqualFolded(std::u16string_view a, std::u16string_view b) { return Equal(a, b); }
 bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }
 
-uint64_t FoldedHash(std::u16string_view text) { return Hash(text); }
-uint64_t FoldedHash(std::string_view text) { return Hash(text); }
+uint64_t FoldedHash(std::u16string_view text) {
+    static const uint64_t factor = Factor();
+    uint64_t hash = text.size();
+    for (const char16_t unit : text) hash = (hash + Fold(unit)) * factor;
+    return hash ^ hash >> 32;
+}
+
+// Eight at a time. Letters differ in one bit by their case; others that do fall on one hash.
+uint64_t FoldedHash(std::string_view text) {
+    static const uint64_t factor = Factor();
+    constexpr uint64_t kCaseBits = 0x2020202020202020;
+    uint64_t hash = text.size();
+    for (size_t at = 0, size = 0; at < text.size(); at += size) {
+        uint64_t bytes = 0;
+        size = std::min(text.size() - at, sizeof bytes);
+        std::memcpy(&bytes, text.data() + at, size);
+        hash = (hash ^ (bytes | kCaseBits)) * factor;
+        hash ^= hash >> 32;
+    }
+    return hash;
+}
 
 }  // namespace vxgui

@@ -70,14 +70,33 @@ private:
         return static_cast<size_t>(index - 1);
     }
 
+    // Memory is taken before anything changes.
     void Append(T item, const String& key) {
-        positions_.MakeRoom();
-        entries_.push_back({std::move(item), key.Lower()});
-        if (!key.empty()) positions_.Add(key.view(), entries_.size() - 1);
+        Entry entry{std::move(item), key.Lower()};
+        if (entries_.size() == kFew) IndexAll();
+        if (entries_.size() >= kFew) positions_.MakeRoom();
+        entries_.push_back(std::move(entry));
+        if (entries_.size() > kFew) Index(entries_.size() - 1);
     }
 
+    void Index(size_t at) {
+        if (!entries_[at].key.empty()) positions_.Add(entries_[at].key.view(), at);
+    }
+    void IndexAll() {
+        positions_.Clear();
+        for (size_t at = 0; at < entries_.size(); ++at) Index(at);
+    }
+
+    // A few keys are looked at one by one.
     size_t PlaceOf(const String& key) const {
-        return positions_.Find(key.view(), [this](size_t at) { return entries_[at].key.view(); });
+        if (entries_.size() > kFew) {
+            return positions_.Find(key.view(),
+                                   [this](size_t at) { return entries_[at].key.view(); });
+        }
+        for (size_t at = 0; !key.empty() && at < entries_.size(); ++at) {
+            if (EqualFolded(entries_[at].key.view(), key.view())) return at;
+        }
+        return NameIndex::kNone;
     }
 
     size_t Position(const String& key) const {
@@ -91,14 +110,12 @@ private:
 
     void Erase(size_t position) {
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
-        positions_.Clear();
-        for (size_t at = 0; at < entries_.size(); ++at) {
-            if (!entries_[at].key.empty()) positions_.Add(entries_[at].key.view(), at);
-        }
+        if (entries_.size() > kFew) IndexAll();
     }
 
+    static constexpr size_t kFew = 16;
     std::vector<Entry> entries_;
-    NameIndex positions_;
+    NameIndex positions_;  ///< of more than a few
 };
 
 }  // namespace vxgui::ole

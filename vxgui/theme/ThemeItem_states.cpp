@@ -3,10 +3,9 @@
 namespace vxgui {
 
 String ThemeItem::StateName(int32_t State) {
-    static constexpr const char* kNames[] = {"Normal",       "MouseOver", "Pressed",
-                                             "Disabled",     "Default",   "Focus",
-                                             "FocusPressed", "Group",     "FocusMouseOver"};
-    if (State >= 0 && State < E_ItemStateMax) return kNames[State];
+    static const String names[] = {"Normal", "MouseOver",    "Pressed", "Disabled",      "Default",
+                                   "Focus",  "FocusPressed", "Group",   "FocusMouseOver"};
+    if (State >= 0 && State < E_ItemStateMax) return names[State];
     return "State_#" + String::FromInt(State);
 }
 

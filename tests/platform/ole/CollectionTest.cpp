@@ -52,5 +52,40 @@ TEST(CollectionTest, RemovalKeepsOrderAndKeys) {
     EXPECT_EQ(items.Item(3), 4);
 }
 
+TEST(CollectionTest, FindsEveryKeyOfFewAndOfMany) {
+    Collection<int> items;
+    const auto key = [](int n) { return "Key" + String::FromInt(n); };
+    const auto allFound = [&](int first, int last) {
+        for (int n = first; n <= last; ++n) {
+            if (!items.Contains(key(n)) || items.Find("KEY" + String::FromInt(n)) != n)
+                return false;
+        }
+        return !items.Contains(key(first - 1)) && !items.Contains(key(last + 1));
+    };
+    for (int n = 1; n <= 40; ++n) {
+        items.Add(n, key(n));
+        items.Add(-n);  // without a key
+        ASSERT_TRUE(allFound(1, n)) << n;
+    }
+    for (int n = 1; n < 40; ++n) {
+        items.Remove(key(n));
+        ASSERT_TRUE(allFound(n + 1, 40)) << n;
+    }
+    for (int n = 41; n <= 60; ++n) items.Add(n, key(n));
+    EXPECT_TRUE(allFound(40, 60));
+}
+
+TEST(CollectionTest, ReplacingPutsTheNewItemAtTheEnd) {
+    Collection<int> items;
+    for (int n = 1; n <= 30; ++n) items.Add(n, "Key" + String::FromInt(n));
+    items.AddReplacing(99, "key7");
+    EXPECT_EQ(items.Count(), 30);
+    EXPECT_EQ(items.Item(30), 99);
+    EXPECT_EQ(items.Item("KEY7"), 99);
+    EXPECT_EQ(items.Item(7), 8);
+    items.AddReplacing(5, {});
+    EXPECT_EQ(items.Count(), 31);
+}
+
 }  // namespace
 }  // namespace vxgui::ole
