@@ -15,7 +15,7 @@
 namespace vxgui::test {
 
 /// The allocations of `work` that are to fail: one from each place in the code, or all of them
-/// when the environment has VXGUI_EVERY_ALLOCATION, which takes hours.
+/// when the environment has VXGUI_EVERY_ALLOCATION, which takes minutes to hours.
 template <class Work>
 std::vector<size_t> AllocationsOf(Work& work) {
     const CountingMemory counting;

@@ -48,7 +48,10 @@ bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }
 uint64_t FoldedHash(std::u16string_view text) {
     static const uint64_t factor = Factor();
     uint64_t hash = text.size();
-    for (const char16_t unit : text) hash = (hash + Fold(unit)) * factor;
+    for (const char16_t unit : text) {
+        hash = (hash + Fold(unit)) * factor;
+        hash ^= hash >> 29;  // a plain polynomial has texts that collide under every factor
+    }
     return hash ^ hash >> 32;
 }
 
