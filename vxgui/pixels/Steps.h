@@ -42,11 +42,11 @@ inline const Bytes* BytesOf(const void* pixels) { return static_cast<const Bytes
 
 /// Stores what a step has worked out.
 [[gnu::always_inline]] inline void Store(const uint16_t (&result)[kHalves], ARGB* to) {
-    auto* const place = reinterpret_cast<Halves*>(to);
+    Halves* const place = reinterpret_cast<Halves*>(to);  // `auto` would take it to be aligned
     for (size_t i = 0; i < kHalves; ++i) place[i] = result[i];
 }
 [[gnu::always_inline]] inline void Store(const uint8_t (&result)[kBytes], ARGB* to) {
-    auto* const place = reinterpret_cast<Bytes*>(to);
+    Bytes* const place = reinterpret_cast<Bytes*>(to);
     for (size_t i = 0; i < kBytes; ++i) place[i] = result[i];
 }
 
@@ -63,6 +63,7 @@ template <class Step>
 template <class Whole, class Step>
 [[gnu::always_inline]] inline void WithRest(const ARGB* source, ARGB* target, size_t count,
                                             Whole whole, Step step) {
+    if (count == 0) return;
     ARGB last[kPixels] = {};
     if (count < kPixels) {
         ARGB first[kPixels] = {};

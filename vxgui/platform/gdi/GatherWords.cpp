@@ -10,7 +10,8 @@ using Word = uint32_t __attribute__((may_alias, aligned(1)));
 // Four at a time and not vectorised (the build sees to it): processors gather word by word, and
 // putting the words together costs more than it saves.
 void GatherWords(const uint8_t* row, const int32_t* columns, size_t count, uint32_t* words) {
-    const auto* const from = reinterpret_cast<const Word*>(row);
+    // `auto` would take it to be aligned.
+    const Word* const from = reinterpret_cast<const Word*>(row);
     size_t i = 0;
     for (; i + 4 <= count; i += 4) {
         const uint32_t a = from[columns[i]], b = from[columns[i + 1]];
