@@ -81,6 +81,19 @@ TEST(Blit, TheColourKeyLeavesTheTarget) {
     }
 }
 
+TEST(Blit, ASurfaceWhoseBitmapHasGoneLeavesTheTarget) {
+    std::mt19937 random(12);
+    const auto surface = MakeRandomSurface(13, 9, random);
+    surface->UseDrawDib(true);
+    gdi::DeleteObject(surface->ExtractDib());
+    GuardedTarget target(20, 20);
+    const uint32_t before = ValueFromARGB(target.At(5, 5));
+    surface->PaintPicture(target.dc(), 0, 0, 20, 20, 0, 0, 13, 9);
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 20; ++x) ASSERT_EQ(ValueFromARGB(target.At(x, y)), before);
+    }
+}
+
 TEST(Blit, APlainCopyIsTheSameOnBothPathsWhereTheSourceIsWhole) {
     for (const bool drawDib : {false, true}) {
         std::mt19937 random(11);
