@@ -144,7 +144,7 @@ public:
 private:
     static void Tidy(std::vector<int32_t>& edges) {
         std::ranges::sort(edges);
-        edges.erase(std::ranges::unique(edges).begin(), edges.end());
+        edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
     }
     static size_t PlaceOf(const std::vector<int32_t>& edges, int32_t edge) {
         return static_cast<size_t>(std::ranges::lower_bound(edges, edge) - edges.begin());

@@ -30,8 +30,8 @@ bool AreMatrices(const ColorMatrix* color, const ColorMatrix* gray, ColorMatrixF
 std::vector<ColorMap> SortedMap(const ColorMap* map, UINT size) {
     std::vector<ColorMap> sorted(map, map + size);
     std::ranges::stable_sort(sorted, {}, &ColorMap::oldColor);
-    const auto repeated = std::ranges::unique(sorted, {}, &ColorMap::oldColor);
-    sorted.erase(repeated.begin(), repeated.end());
+    const auto same = [](const ColorMap& a, const ColorMap& b) { return a.oldColor == b.oldColor; };
+    sorted.erase(std::unique(sorted.begin(), sorted.end(), same), sorted.end());
     return sorted;
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 class ColorMatrixEffect final : public PixelEffect<ColorMatrixEffect, ColorMatrix> {
 public:
-    ColorMatrixEffect() : PixelEffect({}) {
+    ColorMatrixEffect() : PixelEffect(ColorMatrix{}) {
         for (int i = 0; i < 5; ++i) params_.m[i][i] = 1;
     }
     void Turn(std::span<ARGB> pixels) const { ApplyColorMatrix(pixels, params_.m); }

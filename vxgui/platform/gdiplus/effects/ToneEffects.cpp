@@ -65,7 +65,7 @@ private:
 
 class ColorLut final : public TableEffect<ColorLUTParams> {
 public:
-    ColorLut() : TableEffect({}) {
+    ColorLut() : TableEffect(ColorLUTParams{}) {
         const ByteTable same = SameTone();
         for (ColorChannelLUT* lut : {&params_.lutB, &params_.lutG, &params_.lutR, &params_.lutA}) {
             std::memcpy(lut->Colors, same.data(), same.size());
