@@ -120,6 +120,21 @@ TEST(Blur, ColumnsThatAreFilteredInGroupsReachIntoEachOther) {
     }
 }
 
+// The taller a picture, the fewer columns are filtered at a time.
+TEST(Blur, AWideKernelReadsNoColumnThatIsBlurredAlready) {
+    for (int32_t extent : {33, 41, 128, 255}) {
+        for (bool black : {false, true}) {
+            Picture before = Noise(150, 1100, static_cast<uint32_t>(extent));
+            if (black) std::ranges::for_each(before.pixels, [](ARGB& p) { p = {0, 0, 0, p.Alpha}; });
+            Picture picture = before;
+            picture.Blur(MeanKernel(extent), MeanKernel(3));
+            ASSERT_TRUE(picture.pixels ==
+                        Reference(before, MeanKernel(extent), MeanKernel(3)).pixels)
+                << extent << (black ? ", black" : "");
+        }
+    }
+}
+
 TEST(Blur, EveryKernelRoundsAsItsWeightsSay) {
     for (int32_t a = 1; a <= 8; ++a) {
         for (int32_t b = 1; b <= 8; ++b) {

@@ -106,7 +106,9 @@ std::optional<RowFilter> RowFilter::Of(const BoxKernel& kernel, size_t width, bo
     if (scale == 0 || !DividesExactly(static_cast<uint32_t>(kernel.Norm()) * scale, scale)) {
         return std::nullopt;
     }
-    return RowFilter(kernel, width, alphaAlone);
+    const RowFilter filter(kernel, width, alphaAlone);
+    if (filter.Margin() > kStripLanes) return std::nullopt;
+    return filter;
 }
 
 RowFilter::RowFilter(const BoxKernel& kernel, size_t width, bool alphaAlone)
@@ -119,7 +121,7 @@ RowFilter::RowFilter(const BoxKernel& kernel, size_t width, bool alphaAlone)
 }
 
 void RowFilter::Filter(const ARGB* row, size_t first, size_t count, WordRow* means, size_t pitch) {
-    const size_t margin = (weights_.size() - 1) * channels_, lanes = count * kStripLanes;
+    const size_t margin = Margin(), lanes = count * kStripLanes;
     const size_t begin = first - std::min(first, margin);
     const size_t end = std::min(first + lanes + margin, width_ * channels_);
     samples_.resize(lanes + 2 * margin);

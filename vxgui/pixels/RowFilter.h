@@ -14,7 +14,8 @@ namespace vxgui {
 class RowFilter {
 public:
     /// For rows of `width` pixels, of which all four channels or the alpha alone are filtered. None
-    /// for a kernel with which 16 bits don't do.
+    /// for a kernel with which 16 bits don't do, or that reaches over more than a strip's samples:
+    /// the strip before the last one may be written when one is filtered.
     static std::optional<RowFilter> Of(const BoxKernel& kernel, size_t width, bool alphaAlone);
 
     /// Filters `count` strips' rows of samples from that with the number `first` on. What lies
@@ -24,6 +25,9 @@ public:
 
 private:
     RowFilter(const BoxKernel& kernel, size_t width, bool alphaAlone);
+
+    /// The samples that the kernel reaches over to either side.
+    size_t Margin() const { return (weights_.size() - 1) * channels_; }
 
     uint16_t norm_, half_;
     size_t width_;
