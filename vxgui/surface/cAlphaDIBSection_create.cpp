@@ -10,9 +10,9 @@ namespace vxgui {
 bool cAlphaDIBSection::CreateDIB(gdi::HDC lHDC, int32_t lWidth, int32_t lHeight,
                                  gdi::HBITMAP& hDIB) {
     const gdi::BITMAPINFO info = DibInfo(lWidth, lHeight);
-    header_ = info.bmiHeader;
     bits_ = nullptr;
     hDIB = gdi::CreateDIBSection(lHDC, &info, gdi::DIB_RGB_COLORS, &bits_, nullptr, 0);
+    header_ = info.bmiHeader;
     bitsOwner_ = hDIB;
     return hDIB != nullptr;
 }

@@ -4,6 +4,8 @@
 namespace vxgui::gdi {
 namespace {
 
+constexpr DcValues kFreshValues{};
+
 TEST(CreateCompatibleDC, RefusesAStaleModel) {
     HDC dc = CreateCompatibleDC(nullptr);
     HDC copy = CreateCompatibleDC(dc);
@@ -23,6 +25,50 @@ TEST(CreateCompatibleDC, EachFreshContextHasAPixelOfItsOwn) {
     EXPECT_EQ(GetPixel(a, 1, 0), CLR_INVALID);
     DeleteDC(a);
     DeleteDC(b);
+}
+
+/// Changes all that can be changed of a context.
+void Spoil(HDC dc, HBITMAP bitmap, HRGN region) {
+    SetPixel(dc, 0, 0, 0xFFFFFF);
+    SaveDC(dc);
+    SelectObject(dc, bitmap);
+    SelectObject(dc, GetStockObject(BLACK_BRUSH));
+    SelectObject(dc, GetStockObject(WHITE_PEN));
+    SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
+    SelectObject(dc, region);
+    BeginPath(dc);
+    static_cast<DcValues&>(FindContext(dc)->state) = {1, 2,      3,        4, 5, 6, 7,
+                                                      4, {8, 9}, {10, 11}, 2, 2, 1};
+}
+
+TEST(CreateCompatibleDC, HasNothingLeftOfAContextThatWasDropped) {
+    HBITMAP bitmap = CreateBitmap(3, 3, 1, 32, nullptr);
+    HRGN region = CreateRectRgn(0, 0, 2, 2);
+    HDC spoiled = CreateCompatibleDC(nullptr);
+    Spoil(spoiled, bitmap, region);
+    const DeviceContext* const place = FindContext(spoiled).get();
+    EXPECT_TRUE(DeleteDC(spoiled));
+
+    HDC dc = CreateCompatibleDC(nullptr);
+    const GdiRef<DeviceContext> context = FindContext(dc);
+    EXPECT_EQ(context.get(), place) << "or this shows nothing";
+    EXPECT_NE(dc, spoiled);
+    EXPECT_FALSE(DeleteDC(spoiled));
+    const DcState& state = context->state;
+    EXPECT_EQ(state.bitmap.get(), StockBitmap());
+    EXPECT_EQ(state.brush.get(), StockBrush(WHITE_BRUSH));
+    EXPECT_EQ(state.pen.get(), StockPen(BLACK_PEN));
+    EXPECT_EQ(state.font.get(), StockFont(SYSTEM_FONT));
+    EXPECT_FALSE(state.clip.has_value());
+    EXPECT_EQ(state.path, nullptr);
+    EXPECT_EQ(std::memcmp(static_cast<const DcValues*>(&state), &kFreshValues, sizeof(DcValues)),
+              0);
+    EXPECT_EQ(GetPixel(dc, 0, 0), 0x000000u);
+    EXPECT_FALSE(RestoreDC(dc, -1));
+    EXPECT_NE(SelectObject(dc, bitmap), nullptr) << "it is nobody's any more";
+    EXPECT_TRUE(DeleteDC(dc));
+    EXPECT_TRUE(DeleteObject(bitmap));
+    EXPECT_TRUE(DeleteObject(region));
 }
 
 TEST(HostContext, DrawsInPlaceInEveryRowOrder) {

@@ -5,21 +5,27 @@
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
+namespace {
 
-Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<ColorTable> colors)
-    : GdiObject(kKind), shape_(shape), block_(block), colors_(std::move(colors)) {}
-
-Bitmap::~Bitmap() { GivePixelsBack(block_); }
-
-PixelTarget Bitmap::Target() const {
-    PixelTarget target{block_.bits,   shape_.stride, shape_.width,
-                       shape_.height, shape_.depth,  colors_.get()};
-    if (shape_.bottomUp) {
-        target.top += (shape_.height - 1) * shape_.stride;
-        target.stride = -shape_.stride;
+PixelTarget TargetOf(const BitmapShape& shape, uint8_t* bits, const ColorTable* colors) {
+    PixelTarget target{bits, shape.stride, shape.width, shape.height, shape.depth, colors};
+    if (shape.bottomUp) {
+        target.top += (shape.height - 1) * shape.stride;
+        target.stride = -shape.stride;
     }
     return target;
 }
+
+}  // namespace
+
+Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<ColorTable> colors)
+    : GdiObject(kKind),
+      shape_(shape),
+      block_(block),
+      colors_(std::move(colors)),
+      target_(TargetOf(shape, block.bits, colors_.get())) {}
+
+Bitmap::~Bitmap() { GivePixelsBack(block_); }
 
 BITMAP Bitmap::BitmapRecord() const {
     BITMAP record{};

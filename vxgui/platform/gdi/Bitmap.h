@@ -38,7 +38,7 @@ public:
     /// First byte of the pixel memory.
     uint8_t* Bits() const { return block_.bits; }
     const ColorTable* Colors() const { return colors_.get(); }
-    PixelTarget Target() const;
+    const PixelTarget& Target() const { return target_; }
 
     /// `BITMAP`, or `DIBSECTION` for a DIB section when `size` has room for it.
     int Record(int size, void* buffer) const override;
@@ -56,6 +56,7 @@ private:
     const BitmapShape shape_;
     const PixelBlock block_;
     const std::unique_ptr<ColorTable> colors_;
+    const PixelTarget target_;
     std::atomic<const DeviceContext*> owner_{nullptr};
 };
 

@@ -51,7 +51,7 @@ HDC CreateHostDC(const HostPixels& pixels) try {
 
 HDC CreateCompatibleDC(HDC dc) try {
     if (dc && !FindContext(dc)) return nullptr;
-    return EnterContext(std::make_unique<DeviceContext>());
+    return EnterContext(DeviceContext::Fresh());
 } catch (const std::bad_alloc&) {
     return nullptr;
 }

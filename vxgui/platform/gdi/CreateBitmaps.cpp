@@ -7,27 +7,25 @@
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/StockObjects.h"
 #include "vxgui/platform/gdi_surfaces.h"
-#include "vxgui/platform/limits.h"
 
 namespace vxgui::gdi {
 namespace {
 
 GdiRef<Bitmap> MakeBitmap(const BitmapShape& shape, const ColorTable* colors) {
+    size_t size = 0;
+    if (__builtin_mul_overflow(static_cast<size_t>(shape.stride), static_cast<size_t>(shape.height),
+                               &size)) {
+        return nullptr;
+    }
     auto table = colors ? std::make_unique<ColorTable>(*colors) : nullptr;
-    HeldPixels pixels(
-        TakePixels(static_cast<size_t>(shape.stride) * static_cast<size_t>(shape.height)));
+    HeldPixels pixels(TakePixels(size));
     if (!pixels.Get().bits) return nullptr;
     auto bitmap = std::make_unique<Bitmap>(shape, pixels.Get(), std::move(table));
     pixels.Release();
     return Enter(std::move(bitmap));
 }
 
-bool FitsABlock(int64_t stride, int64_t height) {
-    return stride <= static_cast<int64_t>(ApartmentLimits().bitmapBytes) / height;
-}
-
 GdiRef<Bitmap> MakeDibSection(const DibForm& form) {
-    if (!FitsABlock(form.stride, form.height)) return nullptr;
     BitmapShape shape;
     shape.width = form.width;
     shape.height = form.height;
@@ -45,7 +43,6 @@ GdiRef<Bitmap> MakeDeviceBitmap(int32_t width, int32_t height, int depth) {
     shape.height = height;
     shape.depth = depth;
     shape.stride = RowBytes(width, depth, 2);
-    if (!FitsABlock(shape.stride, height)) return nullptr;
     return MakeBitmap(shape, depth == 8 ? &DeviceColors(8) : nullptr);
 }
 
@@ -70,7 +67,7 @@ GdiRef<Bitmap> MakeLike(const Bitmap& model, int32_t width, int32_t height) {
 HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) try {
     const bool served = bitCount == 1 || bitCount == 8 || bitCount == 24 || bitCount == 32;
     if (width < 0 || height < 0 || planes != 1 || !served) return nullptr;
-    if (width == 0 || height == 0) return HandleOf(StockBitmap());
+    if (width == 0 || height == 0) return HandleOf(GdiRef(StockBitmap()));
     const GdiRef<Bitmap> bitmap = MakeDeviceBitmap(width, height, static_cast<int>(bitCount));
     if (bitmap && bits) {
         std::memcpy(bitmap->Bits(), bits, static_cast<size_t>(bitmap->Shape().stride * height));
@@ -83,7 +80,7 @@ HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitCount, const vo
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) try {
     const GdiRef<DeviceContext> context = FindContext(dc);
     if ((dc && !context) || width < 0 || height < 0) return nullptr;
-    if (width == 0 || height == 0) return HandleOf(StockBitmap());
+    if (width == 0 || height == 0) return HandleOf(GdiRef(StockBitmap()));
     if (!context) return HandleOf(MakeDeviceBitmap(width, height, 32));
     return HandleOf(MakeLike(*context->state.bitmap, width, height));
 } catch (const std::bad_alloc&) {

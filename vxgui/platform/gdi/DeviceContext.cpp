@@ -1,23 +1,50 @@
 #include "vxgui/platform/gdi/DeviceContext.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/StockObjects.h"
+#include "vxgui/platform/gdi/ThreadStore.h"
 
 namespace vxgui::gdi {
 namespace {
 
-void SelectStock(DcState& state) {
-    state.brush = Selection<Brush>(StockBrush(WHITE_BRUSH));
-    state.pen = Selection<Pen>(StockPen(BLACK_PEN));
-    state.font = Selection<Font>(StockFont(SYSTEM_FONT));
+template <class T>
+void Select(Selection<T>& place, T* object) {
+    if (place.get() != object) place = Selection<T>(GdiRef<T>(object));
 }
+
+/// What a fresh context has selected.
+struct StockSelection {
+    Brush* const brush = StockBrush(WHITE_BRUSH);
+    Pen* const pen = StockPen(BLACK_PEN);
+    Font* const font = StockFont(SYSTEM_FONT);
+    Bitmap* const bitmap = StockBitmap();
+};
+
+const StockSelection& Stock() {
+    static const StockSelection stock;
+    return stock;
+}
+
+void SelectStock(DcState& state) {
+    Select(state.brush, Stock().brush);
+    Select(state.pen, Stock().pen);
+    Select(state.font, Stock().font);
+}
+
+void End(DeviceContext* context) { delete context; }
+using FreshOnes = ThreadStore<DeviceContext, 8, End>;
 
 }  // namespace
 
-DeviceContext::DeviceContext() : GdiObject(kKind), host_(false) {
-    SelectStock(state);
-    state.bitmap = Selection<Bitmap>(StockBitmap());
+std::unique_ptr<DeviceContext> DeviceContext::Fresh() {
+    DeviceContext* const kept = FreshOnes::Take();
+    return std::unique_ptr<DeviceContext>(kept ? kept : new DeviceContext);
 }
+
+DeviceContext::DeviceContext() : GdiObject(kKind), host_(false) { Reset(); }
 
 DeviceContext::DeviceContext(GdiRef<Bitmap> pixels) : GdiObject(kKind), host_(true) {
     SelectStock(state);
@@ -27,10 +54,20 @@ DeviceContext::DeviceContext(GdiRef<Bitmap> pixels) : GdiObject(kKind), host_(tr
 
 DeviceContext::~DeviceContext() = default;
 
-PixelTarget DeviceContext::Target() const {
-    PixelTarget target = state.bitmap->Target();
-    if (state.bitmap->Shape().shared) target.top = ownPixel_;
-    return target;
+void DeviceContext::Reset() {
+    saved = {};
+    SelectStock(state);
+    Select(state.bitmap, Stock().bitmap);
+    state.clip.reset();
+    state.path.reset();
+    static_cast<DcValues&>(state) = {};
+    std::fill(std::begin(ownPixel_), std::end(ownPixel_), uint8_t{0});
+}
+
+void DeviceContext::Drop() {
+    if (host_) return End(this);
+    Reset();
+    FreshOnes::Give(this);
 }
 
 RECT DeviceContext::DrawableBox() const {

@@ -14,14 +14,8 @@ namespace vxgui::gdi {
 
 class DcPath;
 
-/// All that `SaveDC` keeps.
-struct DcState {
-    Selection<Bitmap> bitmap;
-    Selection<Brush> brush;
-    Selection<Pen> pen;
-    Selection<Font> font;
-    /// In device coordinates; none for no clipping but the bitmap's own edges.
-    std::optional<PixelRegion> clip;
+/// What `SaveDC` keeps that is no more than numbers.
+struct DcValues {
     COLORREF textColor = 0x000000;
     COLORREF backColor = 0xFFFFFF;
     int backMode = OPAQUE;
@@ -35,24 +29,39 @@ struct DcState {
     int arcDirection = 1;  ///< 1 anticlockwise, 2 clockwise
     int polyFillMode = ALTERNATE;
     DWORD layout = 0;
+};
+
+/// All that `SaveDC` keeps.
+struct DcState : DcValues {
+    Selection<Bitmap> bitmap;
+    Selection<Brush> brush;
+    Selection<Pen> pen;
+    Selection<Font> font;
+    /// In device coordinates; none for no clipping but the bitmap's own edges.
+    std::optional<PixelRegion> clip;
     /// The path bracket, open or ended; none when there is no path.
     std::shared_ptr<DcPath> path;
 };
 
 /// A device context: a memory context, or one over a host's pixels.
-class DeviceContext final : public GdiObject, public Pooled<DeviceContext> {
+class DeviceContext final : public GdiObject {
 public:
     static constexpr GdiKind kKind = GdiKind::DeviceContext;
 
-    /// A memory context with the stock objects.
-    DeviceContext();
+    /// A memory context with the stock objects: one that was dropped before, where the thread keeps
+    /// one.
+    static std::unique_ptr<DeviceContext> Fresh();
     /// A context that draws on `pixels` alone and takes no other bitmap.
     explicit DeviceContext(GdiRef<Bitmap> pixels);
     ~DeviceContext() override;
 
     bool IsHost() const { return host_; }
     /// The pixels that the context draws on.
-    PixelTarget Target() const;
+    PixelTarget Target() const {
+        PixelTarget target = state.bitmap->Target();
+        if (state.bitmap->Shape().shared) target.top = ownPixel_;
+        return target;
+    }
     /// The box around all that may be drawn on.
     RECT DrawableBox() const;
     /// Whether a pixel lies inside the target and the clip.
@@ -61,7 +70,13 @@ public:
     DcState state;
     std::vector<DcState> saved;
 
+protected:
+    void Drop() override;
+
 private:
+    DeviceContext();
+    void Reset();
+
     const bool host_;
     // The pixel of the stock bitmap, which is one object for all contexts.
     alignas(4) mutable uint8_t ownPixel_[4] = {};

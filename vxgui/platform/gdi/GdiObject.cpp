@@ -6,10 +6,6 @@ namespace vxgui::gdi {
 
 int GdiObject::Record(int, void*) const { return 0; }
 
-void GdiObject::AddReference() { HandleTable::AddReference(*slot_); }
-
-void GdiObject::Release() { HandleTable::Release(*slot_); }
-
 void GdiObject::RemoveSelection() {
     const uint32_t before = Subtract(selections_, 1u);
     if ((before & ~kDoomed) != 1) return;
@@ -18,7 +14,10 @@ void GdiObject::RemoveSelection() {
 }
 
 void GdiObject::Delete() {
-    if ((selections_.fetch_or(kDoomed) & ~kDoomed) == 0) HandleTable::Retire(*this);
+    uint32_t before = selections_.load();
+    while (!Exchange(selections_, before, before | kDoomed)) {
+    }
+    if ((before & ~kDoomed) == 0) HandleTable::Retire(*this);
 }
 
 }  // namespace vxgui::gdi

@@ -4,15 +4,13 @@
 #include <cstdint>
 #include <utility>
 
-#include "vxgui/platform/gdi/Counting.h"
+#include "vxgui/platform/gdi/HandleSlot.h"
 #include "vxgui/platform/gdi_types.h"
 
 namespace vxgui::gdi {
 
 /// What a handle stands for.
 enum class GdiKind : uint8_t { DeviceContext, Bitmap, Brush, Pen, Font, Region, Icon, DibDrawer };
-
-struct HandleSlot;
 
 /// Base of everything that a handle names. Its reference count lives in its slot of the handle
 /// table, so that a look-up by handle can take a reference without touching freed memory.
@@ -34,8 +32,8 @@ public:
     /// `buffer` the record's size.
     virtual int Record(int size, void* buffer) const;
 
-    void AddReference();
-    void Release();
+    void AddReference() { slot_->AddReference(); }
+    void Release() { slot_->Release(); }
 
     /// A selection is a context's claim: deletion waits until the last one is given up.
     void AddSelection() { Add(selections_, 1u); }
@@ -47,6 +45,8 @@ public:
 protected:
     /// The last context has deselected the object.
     virtual void Deselected() {}
+    /// Neither a handle nor a reference is left.
+    virtual void Drop() { delete this; }
 
 private:
     friend struct HandleSlot;
@@ -84,6 +84,9 @@ public:
     ~GdiRef() {
         if (object_) object_->Release();
     }
+
+    /// Hands its reference over, uncounted.
+    T* Detach() { return std::exchange(object_, nullptr); }
 
     T* get() const { return object_; }
     T* operator->() const { return object_; }

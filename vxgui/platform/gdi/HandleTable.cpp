@@ -2,8 +2,9 @@
 
 #include <array>
 #include <mutex>
+#include <type_traits>
 
-#include "vxgui/platform/gdi/Counting.h"
+#include "vxgui/platform/gdi/ThreadStore.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -14,9 +15,7 @@ constexpr int kIndexBits = 20;
 constexpr uintptr_t kIndexMask = (uintptr_t{1} << kIndexBits) - 1;
 constexpr uint32_t kChunkSize = 1024;
 constexpr uint32_t kChunkCount = (1u << kIndexBits) / kChunkSize;
-constexpr int kReferenceBits = 28;
-constexpr uint64_t kReferenceMask = (uint64_t{1} << kReferenceBits) - 1;
-constexpr uint64_t kGenerationStep = uint64_t{1} << kReferenceBits;
+constexpr uint64_t kGenerationStep = uint64_t{1} << HandleSlot::kReferenceBits;
 constexpr uint64_t kHandleGenerationMask = UINTPTR_MAX >> kIndexBits;
 
 struct Table {
@@ -26,20 +25,20 @@ struct Table {
     uint32_t firstFree = 0;
 };
 
-// Never destroyed: handles may be used while the process ends.
-Table& TheTable() {
-    static Table* const table = new Table;
-    return *table;
+// Handles may be used while the process ends.
+static_assert(std::is_trivially_destructible_v<Table>);
+constinit Table table;
+
+uint64_t GenerationOf(uint64_t state) {
+    return (state >> HandleSlot::kReferenceBits) & kHandleGenerationMask;
 }
 
-uint64_t GenerationOf(uint64_t state) { return (state >> kReferenceBits) & kHandleGenerationMask; }
-
-HandleSlot* SlotAt(const Table& table, uint32_t index) {
+HandleSlot* SlotAt(uint32_t index) {
     HandleSlot* chunk = table.chunks[index / kChunkSize].load(std::memory_order_acquire);
     return chunk ? &chunk[index % kChunkSize] : nullptr;
 }
 
-HandleSlot* FreshSlot(Table& table) {
+HandleSlot* FreshSlot() {
     if (table.used >= kChunkCount * kChunkSize) return nullptr;
     const uint32_t index = table.used;
     std::atomic<HandleSlot*>& chunk = table.chunks[index / kChunkSize];
@@ -47,28 +46,31 @@ HandleSlot* FreshSlot(Table& table) {
         chunk.store(new HandleSlot[kChunkSize], std::memory_order_release);
     }
     ++table.used;
-    HandleSlot* slot = SlotAt(table, index);
+    HandleSlot* slot = SlotAt(index);
     slot->index = index;
     return slot;
 }
 
-HandleSlot* FreeSlot(Table& table) {
-    if (table.firstFree == 0) return FreshSlot(table);
-    HandleSlot* slot = SlotAt(table, table.firstFree);
+HandleSlot* FreeSlot() {
+    const std::lock_guard lock(table.mutex);
+    if (table.firstFree == 0) return FreshSlot();
+    HandleSlot* slot = SlotAt(table.firstFree);
     table.firstFree = slot->nextFree;
     return slot;
 }
 
-HandleSlot* TakeSlot(Table& table) {
+void GiveBack(HandleSlot* slot) {
     const std::lock_guard lock(table.mutex);
-    return FreeSlot(table);
+    slot->nextFree = table.firstFree;
+    table.firstFree = slot->index;
 }
 
-void GiveBack(HandleSlot& slot) {
-    Table& table = TheTable();
-    const std::lock_guard lock(table.mutex);
-    slot.nextFree = table.firstFree;
-    table.firstFree = slot.index;
+// Those at hand need no lock.
+using SlotsAtHand = ThreadStore<HandleSlot, 8, GiveBack>;
+
+HandleSlot* TakeSlot() {
+    HandleSlot* const slot = SlotsAtHand::Take();
+    return slot ? slot : FreeSlot();
 }
 
 HGDIOBJ HandleValue(const HandleSlot& slot, uint64_t state) {
@@ -79,9 +81,9 @@ HGDIOBJ HandleValue(const HandleSlot& slot, uint64_t state) {
 }  // namespace
 
 GdiObject* HandleTable::Enter(std::unique_ptr<GdiObject> object) {
-    HandleSlot* slot = TakeSlot(TheTable());
+    HandleSlot* slot = TakeSlot();
     if (!slot) return nullptr;
-    const uint64_t generation = (slot->state.load() & ~kReferenceMask) + kGenerationStep;
+    const uint64_t generation = (slot->state.load() & ~HandleSlot::kReferences) + kGenerationStep;
     object->slot_ = slot;
     object->handle_ = HandleValue(*slot, generation);
     slot->object.store(object.get(), std::memory_order_relaxed);
@@ -93,11 +95,12 @@ GdiObject* HandleTable::Acquire(const void* handle) {
     const auto value = reinterpret_cast<uintptr_t>(handle);
     const uint64_t generation = value >> kIndexBits;
     if ((generation & 1) == 0) return nullptr;
-    HandleSlot* slot = SlotAt(TheTable(), static_cast<uint32_t>(value & kIndexMask));
+    HandleSlot* slot = SlotAt(static_cast<uint32_t>(value & kIndexMask));
     if (!slot) return nullptr;
     uint64_t state = slot->state.load(std::memory_order_acquire);
     do {
-        if (GenerationOf(state) != generation || (state & kReferenceMask) == 0) return nullptr;
+        if (GenerationOf(state) != generation || (state & HandleSlot::kReferences) == 0)
+            return nullptr;
     } while (!Exchange(slot->state, state, state + 1));
     return slot->object.load(std::memory_order_relaxed);
 }
@@ -109,26 +112,21 @@ bool HandleTable::Retire(GdiObject& object) {
     do {
         if (GenerationOf(state) != generation) return false;
     } while (!Exchange(slot.state, state, state + kGenerationStep));
-    Release(slot);
+    slot.Release();
     return true;
 }
 
-void HandleTable::AddReference(HandleSlot& slot) { Add(slot.state, uint64_t{1}); }
-
-void HandleTable::Release(HandleSlot& slot) {
-    const uint64_t before = Subtract(slot.state, uint64_t{1});
-    if ((before & kReferenceMask) != 1) return;
-    delete slot.object.load(std::memory_order_relaxed);  // nobody else is left who could look
-    slot.object.store(nullptr, std::memory_order_relaxed);
-    GiveBack(slot);
+void HandleSlot::Vacate() {
+    object.load(std::memory_order_relaxed)->Drop();
+    object.store(nullptr, std::memory_order_relaxed);
+    SlotsAtHand::Give(this);
 }
 
 size_t HandleTable::LiveCount() {
-    Table& table = TheTable();
     const std::lock_guard lock(table.mutex);
     size_t live = 0;
     for (uint32_t index = 1; index < table.used; ++index) {
-        live += GenerationOf(SlotAt(table, index)->state.load()) & 1;
+        live += GenerationOf(SlotAt(index)->state.load()) & 1;
     }
     return live;
 }

@@ -6,18 +6,9 @@
 
 namespace vxgui::gdi {
 
-/// One place of the table. `state` is the generation in the high bits, odd while the handle is
-/// alive, and the number of references in the low ones.
-struct HandleSlot {
-    std::atomic<uint64_t> state{0};
-    std::atomic<GdiObject*> object{nullptr};
-    uint32_t index = 0;
-    uint32_t nextFree = 0;
-};
-
 /// The process-wide table of handles. A handle is a slot's index and generation, never an
 /// address: a stale or forged one fails without a memory access beyond the table. Look-up takes
-/// no lock; entering and removing take one.
+/// no lock; entering and removing take one where the thread has no place of its own at hand.
 class HandleTable {
 public:
     /// Enters `object`; the result is its first counted reference, besides the handle's own.
@@ -28,8 +19,6 @@ public:
     /// Ends the handle; the object lives on while it has references. False when it had ended.
     static bool Retire(GdiObject& object);
 
-    static void AddReference(HandleSlot& slot);
-    static void Release(HandleSlot& slot);
     /// Live handles, for tests that look for leaks.
     static size_t LiveCount();
 };

@@ -10,7 +10,7 @@ namespace {
 template <class T>
 HGDIOBJ Exchange(Selection<T>& place, GdiRef<GdiObject>& object) {
     const HGDIOBJ before = place.Handle();
-    place = Selection<T>(GdiRef<T>(static_cast<T*>(object.get())));
+    place = Selection<T>(GdiRef<T>::Adopt(static_cast<T*>(object.Detach())));
     return before;
 }
 

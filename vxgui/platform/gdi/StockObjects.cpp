@@ -36,37 +36,37 @@ Bitmap* MakeBitmap() {
 
 }  // namespace
 
-GdiRef<Brush> StockBrush(int index) {
+Brush* StockBrush(int index) {
     static const std::array<Brush*, 6> brushes = {
         MakeBrush(BS_SOLID, 0xFFFFFF), MakeBrush(BS_SOLID, 0xC0C0C0), MakeBrush(BS_SOLID, 0x808080),
         MakeBrush(BS_SOLID, 0x404040), MakeBrush(BS_SOLID, 0x000000), MakeBrush(BS_NULL, 0)};
     if (index < WHITE_BRUSH || index > NULL_BRUSH) return nullptr;
-    return GdiRef<Brush>(brushes[static_cast<size_t>(index - WHITE_BRUSH)]);
+    return brushes[static_cast<size_t>(index - WHITE_BRUSH)];
 }
 
-GdiRef<Pen> StockPen(int index) {
+Pen* StockPen(int index) {
     static const std::array<Pen*, 3> pens = {MakePen(PS_SOLID, 0xFFFFFF), MakePen(PS_SOLID, 0),
                                              MakePen(PS_NULL, 0)};
     if (index < WHITE_PEN || index > NULL_PEN) return nullptr;
-    return GdiRef<Pen>(pens[static_cast<size_t>(index - WHITE_PEN)]);
+    return pens[static_cast<size_t>(index - WHITE_PEN)];
 }
 
-GdiRef<Font> StockFont(int index) {
+Font* StockFont(int index) {
     static Font* const system = MakeFont("System", 16, 0x22);
     static Font* const gui = MakeFont("MS Shell Dlg", -11, 0x22);
-    if (index == SYSTEM_FONT) return GdiRef<Font>(system);
-    return index == DEFAULT_GUI_FONT ? GdiRef<Font>(gui) : nullptr;
+    if (index == SYSTEM_FONT) return system;
+    return index == DEFAULT_GUI_FONT ? gui : nullptr;
 }
 
-GdiRef<Bitmap> StockBitmap() {
+Bitmap* StockBitmap() {
     static Bitmap* const bitmap = MakeBitmap();
-    return GdiRef<Bitmap>(bitmap);
+    return bitmap;
 }
 
 HGDIOBJ GetStockObject(int index) {
-    if (const auto brush = StockBrush(index)) return brush->Handle();
-    if (const auto pen = StockPen(index)) return pen->Handle();
-    if (const auto font = StockFont(index)) return font->Handle();
+    if (const Brush* brush = StockBrush(index)) return brush->Handle();
+    if (const Pen* pen = StockPen(index)) return pen->Handle();
+    if (const Font* font = StockFont(index)) return font->Handle();
     return nullptr;
 }
 

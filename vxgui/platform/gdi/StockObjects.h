@@ -9,11 +9,11 @@
 namespace vxgui::gdi {
 
 // Objects that exist from first use to the end of the process. Selecting one is free.
-GdiRef<Brush> StockBrush(int index);
-GdiRef<Pen> StockPen(int index);
-GdiRef<Font> StockFont(int index);
+Brush* StockBrush(int index);
+Pen* StockPen(int index);
+Font* StockFont(int index);
 /// The 1 x 1 monochrome bitmap of a fresh context; each context draws on a pixel of its own.
-GdiRef<Bitmap> StockBitmap();
+Bitmap* StockBitmap();
 
 /// Enters an object that exists to the end of the process, as those above do.
 template <class T>

@@ -9,13 +9,13 @@ namespace {
 /// Puts a value in its place of a context's state and answers the one before; `failed` for a
 /// wrong handle.
 template <class T>
-T Exchange(HDC dc, T DcState::*place, T value, T failed) {
+T Exchange(HDC dc, T DcValues::*place, T value, T failed) {
     const GdiRef<DeviceContext> context = FindContext(dc);
     return context ? std::exchange(context->state.*place, value) : failed;
 }
 
 template <class T>
-T Read(HDC dc, T DcState::*place, T failed) {
+T Read(HDC dc, T DcValues::*place, T failed) {
     const GdiRef<DeviceContext> context = FindContext(dc);
     return context ? context->state.*place : failed;
 }
