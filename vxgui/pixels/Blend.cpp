@@ -90,9 +90,6 @@ VXGUI_MULTIVERSION(void, StraightLoop,
     Store(result, to);
 }
 
-/// Pixels that are looked at together.
-constexpr size_t kBlock = 4 * kPixels;
-
 /// How many pixels at the beginning, in whole blocks, are all zero.
 VXGUI_MULTIVERSION(size_t, ClearRun, (const ARGB* pixels, size_t count)) {
     size_t run = 0;

@@ -4,6 +4,7 @@
 
 #include "vxgui/pixels/Lanes.h"
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Steps.h"
 
 namespace vxgui {
 
@@ -11,51 +12,38 @@ using namespace lanes;
 
 namespace {
 
-/// Pixels that are looked at together.
-constexpr size_t kBlock = 64;
-
-/// How many pixels at the beginning, in whole blocks, all have the colour.
-VXGUI_MULTIVERSION(size_t, MatchingRun, (const ARGB* pixels, size_t count, uint32_t match)) {
-    size_t run = 0;
-    for (; run + kBlock <= count; run += kBlock) {
-        uint32_t difference = 0;
-        for (size_t i = 0; i < kBlock; ++i) difference |= Load(pixels[run + i]) ^ match;
-        if ((difference & kColor) != 0) break;
+[[gnu::always_inline]] inline void MergeStep(const ARGB* from, ARGB* to, uint32_t match) {
+    uint32_t merged[steps::kPixels];
+    for (size_t i = 0; i < steps::kPixels; ++i) {
+        const uint32_t s = Load(from[i]), t = Load(to[i]);
+        merged[i] = (s & kColor) == match ? t : s;
     }
-    return run;
+    std::memcpy(static_cast<void*>(to), merged, sizeof merged);
 }
 
-/// Whether it is worth a look: some pixels from all over the block match.
-bool MayMatch(const ARGB* block, uint32_t match) {
-    const auto difference = [&](size_t i) { return Load(block[i]) ^ match; };
-    constexpr size_t kThird = kBlock / 3;
-    return ((difference(0) | difference(kThird) | difference(2 * kThird) | difference(kBlock - 1)) &
-            kColor) == 0;
-}
-
-VXGUI_MULTIVERSION(void, MergeBlock,
-                   (const ARGB* source, ARGB* target, size_t count, uint32_t match)) {
-    for (size_t i = 0; i < count; ++i) {
-        const uint32_t s = Load(source[i]), t = Load(target[i]);
-        Store(target[i], (s & kColor) == match ? t : s);
+/// Whether all `steps::kBlock` pixels have the colour; looked at only where some from all over the
+/// block do.
+[[gnu::always_inline]] inline bool AllMatch(const ARGB* block, uint32_t match) {
+    const auto differs = [=](size_t i) { return (Load(block[i]) ^ match) & kColor; };
+    constexpr size_t kThird = steps::kBlock / 3;
+    if ((differs(0) | differs(kThird) | differs(2 * kThird) | differs(steps::kBlock - 1)) != 0) {
+        return false;
     }
+    uint32_t difference = 0;
+    for (size_t i = 0; i < steps::kBlock; ++i) difference |= differs(i);
+    return difference == 0;
 }
 
 /// Long runs of the key, as the pictures have that need one, leave the target unread.
-void MergeLoop(const ARGB* source, ARGB* target, size_t count, uint32_t match) {
-    size_t begin = 0, end = 0;  // of what is still to be merged
-    while (end < count) {
-        const size_t run = count - end >= kBlock && MayMatch(source + end, match)
-                               ? MatchingRun(source + end, count - end, match)
-                               : 0;
-        if (run == 0) {
-            end += std::min(kBlock, count - end);
-            continue;
-        }
-        MergeBlock(source + begin, target + begin, end - begin, match);
-        begin = end += run;
-    }
-    MergeBlock(source + begin, target + begin, end - begin, match);
+VXGUI_MULTIVERSION(void, MergeLoop,
+                   (const ARGB* source, ARGB* target, size_t count, uint32_t match)) {
+    steps::ForEachUnlessSkipped(
+        source, target, count,
+        [=](const ARGB* from, ARGB* to)
+            __attribute__((always_inline)) { MergeStep(from, to, match); },
+        [=](const ARGB* from, ARGB*, size_t left) __attribute__((always_inline)) {
+            return left >= steps::kBlock && AllMatch(from, match) ? steps::kBlock : 0;
+        });
 }
 
 /// Sets the alpha byte to that of `matching` where the colour matches; elsewhere the bits of

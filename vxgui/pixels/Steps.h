@@ -16,6 +16,8 @@ namespace vxgui::steps {
 constexpr size_t kPixels = 16;
 constexpr size_t kHalves = 2 * kPixels;
 constexpr size_t kBytes = 4 * kPixels;
+/// Pixels that are looked at together for a shorter way.
+constexpr size_t kBlock = 4 * kPixels;
 
 /// Views of pixel memory, which may begin at any address: of words, of pairs of a lower channel
 /// (blue, red) and an upper one (green, alpha), and of bytes.
@@ -99,7 +101,6 @@ template <class Step>
 template <class Step, class Skip>
 [[gnu::always_inline]] inline void ForEachUnlessSkipped(const ARGB* source, ARGB* target,
                                                         size_t count, Step step, Skip skip) {
-    constexpr size_t kBlock = 4 * kPixels;
     WithRest(
         source, target, count,
         [&](const ARGB* from, ARGB* to, size_t pixels) __attribute__((always_inline)) {
