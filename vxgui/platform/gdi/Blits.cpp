@@ -1,4 +1,5 @@
 #include "vxgui/platform/gdi/RopBlit.h"
+#include "vxgui/platform/gdi/WordRows.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
@@ -11,11 +12,9 @@ BOOL Fill(const DeviceContext& dc, int x, int y, int width, int height, const Ro
     return 1;
 }
 
-BOOL Copy(const DeviceContext& dc, HDC sourceHandle, const BlitGeometry& geometry,
+BOOL Copy(const DeviceContext& dc, const DeviceContext& source, const BlitGeometry& geometry,
           const Rop3& rop) {
-    const GdiRef<DeviceContext> source = FindContext(sourceHandle);
-    if (!source) return 0;
-    const BlitSource pixels{source->Target(), MonoColorsOf(dc, source.get())};
+    const BlitSource pixels{source.Target(), MonoColorsOf(dc, &source)};
     return RopBlit(dc, pixels, geometry, rop, *dc.state.brush);
 }
 
@@ -27,7 +26,13 @@ BOOL StretchBlt(HDC handle, int x, int y, int width, int height, HDC source, int
     if (!dc) return 0;
     const Rop3 rop(operation);
     if (!rop.UsesSource()) return Fill(*dc, x, y, width, height, rop);
-    return Copy(*dc, source, {{x, width, sourceX, sourceWidth}, {y, height, sourceY, sourceHeight}},
+    const GdiRef<DeviceContext> from = FindContext(source);
+    if (!from) return 0;
+    if (operation == SRCCOPY && width == sourceWidth && height == sourceHeight &&
+        CopyWholeWordRows(*dc, from->Target(), {x, y, width, height, sourceX, sourceY})) {
+        return 1;
+    }
+    return Copy(*dc, *from, {{x, width, sourceX, sourceWidth}, {y, height, sourceY, sourceHeight}},
                 rop);
 }
 

@@ -3,6 +3,7 @@
 #include "vxgui/platform/gdi/Dib.h"
 #include "vxgui/platform/gdi/HandleTable.h"
 #include "vxgui/platform/gdi/RopBlit.h"
+#include "vxgui/platform/gdi/WordRows.h"
 #include "vxgui/platform/gdi_surfaces.h"
 
 namespace vxgui::gdi {
@@ -47,11 +48,15 @@ BOOL DrawDibDraw(HDRAWDIB handle, HDC target, int x, int y, int width, int heigh
     if (!ReadDib(reinterpret_cast<const BITMAPINFO*>(header), DIB_RGB_COLORS, &form)) return 0;
     const int fromWidth = OrNatural(sourceWidth, form.width);
     const int fromHeight = OrNatural(sourceHeight, form.height);
-    const BlitSource source{form.View(bits ? bits : BitsBehind(*header), form.height),
-                            MonoColorsOf(*dc, nullptr)};
-    const BlitGeometry geometry{{x, OrNatural(width, fromWidth), sourceX, fromWidth},
-                                {y, OrNatural(height, fromHeight), sourceY, fromHeight}};
-    return RopBlit(*dc, source, geometry, Rop3(SRCCOPY), *dc->state.brush);
+    const int toWidth = OrNatural(width, fromWidth), toHeight = OrNatural(height, fromHeight);
+    const PixelTarget source = form.View(bits ? bits : BitsBehind(*header), form.height);
+    if (toWidth == fromWidth && toHeight == fromHeight &&
+        CopyWholeWordRows(*dc, source, {x, y, toWidth, toHeight, sourceX, sourceY})) {
+        return 1;
+    }
+    return RopBlit(*dc, {source, MonoColorsOf(*dc, nullptr)},
+                   {{x, toWidth, sourceX, fromWidth}, {y, toHeight, sourceY, fromHeight}},
+                   Rop3(SRCCOPY), *dc->state.brush);
 }
 
 }  // namespace vxgui::gdi

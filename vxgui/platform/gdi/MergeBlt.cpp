@@ -9,6 +9,15 @@ bool SameArea(const RECT& a, const RECT& b) {
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
+auto Merges(WordMerger& merger) {
+    return [&merger](const uint32_t* source, uint32_t* target, int32_t count) {
+        // A merger that looks whether its memory is there need not ask the system.
+        const kernel::KnownMemory readable(source, size_t(count) * sizeof *source);
+        const kernel::KnownMemory writable(target, size_t(count) * sizeof *target);
+        merger.Merge(source, target, count);
+    };
+}
+
 }  // namespace
 
 bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle, int sourceX,
@@ -18,6 +27,12 @@ bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle,
     if (!dc || !from || sourceWidth == 0 || sourceHeight == 0) return false;
     if (width < 1 || height < 1) return true;
     const PixelTarget source = from->Target(), target = dc->Target();
+    if (width == sourceWidth && height == sourceHeight) {
+        if (const auto rows = WholeWordRows(*dc, source, {x, y, width, height, sourceX, sourceY})) {
+            rows->ForEachRun(Merges(merger));
+            return true;
+        }
+    }
     if (source.depth != 32 || target.depth != 32 || ShareMemory(source, target)) return false;
 
     BlitGeometry geometry{{x, width, sourceX, sourceWidth}, {y, height, sourceY, sourceHeight}};
@@ -27,13 +42,7 @@ bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle,
     geometry.CutToSource(source);
     if (geometry.Empty() || !SameArea(geometry.Area(), area)) return false;
     BlitReader reader(source, geometry);
-    return reader.Prepare(target) &&
-           ForEachWordRun(*dc, reader, area, [&](const uint32_t* s, uint32_t* t, int32_t count) {
-               // A merger that looks whether its memory is there need not ask the system.
-               const kernel::KnownMemory readable(s, size_t(count) * sizeof *s);
-               const kernel::KnownMemory writable(t, size_t(count) * sizeof *t);
-               merger.Merge(s, t, count);
-           });
+    return reader.Prepare(target) && ForEachWordRun(*dc, reader, area, Merges(merger));
 }
 
 }  // namespace vxgui::gdi

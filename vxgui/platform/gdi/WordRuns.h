@@ -2,29 +2,27 @@
 
 #include "vxgui/platform/gdi/BlitReader.h"
 #include "vxgui/platform/gdi/ScratchBlock.h"
+#include "vxgui/platform/gdi/WordRows.h"
 
 namespace vxgui::gdi {
 
-/// More pixels at once than are worth it, and few enough for a count of bytes in 32 bits.
-constexpr int64_t kLongestRun = 1 << 24;
-
-/// Calls `run(source, target, count)` for the words that a blit without scaling shows in `part`,
-/// row by row; rows that lie one behind the other in both are one.
+/// Calls `run(source, target, count)` for the words that a blit shows in `part` whose columns are
+/// neither scaled nor mirrored.
 template <class Run>
 void ForEachPlainRun(const PixelTarget& target, const BlitReader& reader, const RECT& part,
                      Run&& run) {
-    const int32_t width = part.right - part.left, height = part.bottom - part.top;
-    const auto call = [&](int32_t y, int32_t count) {
-        run(reinterpret_cast<const uint32_t*>(reader.Address(part.left, y)),
-            target.Row32(y) + part.left, count);
+    const int32_t width = part.right - part.left;
+    const auto rows = [&](int32_t y, int32_t height) {
+        const WordRows words{reader.Address(part.left, y),
+                             reader.Stride(),
+                             target.Row(y) + ptrdiff_t{part.left} * 4,
+                             target.stride,
+                             width,
+                             height};
+        words.ForEachRun(run);
     };
-    const bool down = target.stride == ptrdiff_t{width} * 4;
-    const bool up = target.stride == -ptrdiff_t{width} * 4;
-    if ((down || up) && reader.PlainRows() && reader.Stride() == target.stride &&
-        int64_t{width} * height <= kLongestRun) {
-        return call(down ? part.top : part.bottom - 1, width * height);
-    }
-    for (int32_t y = part.top; y < part.bottom; ++y) call(y, width);
+    if (reader.PlainRows()) return rows(part.top, part.bottom - part.top);
+    for (int32_t y = part.top; y < part.bottom; ++y) rows(y, 1);
 }
 
 /// The same for a blit with scaled or mirrored columns: each source row is laid out once in `row`,
