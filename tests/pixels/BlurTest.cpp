@@ -125,7 +125,8 @@ TEST(Blur, AWideKernelReadsNoColumnThatIsBlurredAlready) {
     for (int32_t extent : {33, 41, 128, 255}) {
         for (bool black : {false, true}) {
             Picture before = Noise(150, 1100, static_cast<uint32_t>(extent));
-            if (black) std::ranges::for_each(before.pixels, [](ARGB& p) { p = {0, 0, 0, p.Alpha}; });
+            if (black)
+                std::ranges::for_each(before.pixels, [](ARGB& p) { p = {0, 0, 0, p.Alpha}; });
             Picture picture = before;
             picture.Blur(MeanKernel(extent), MeanKernel(3));
             ASSERT_TRUE(picture.pixels ==
@@ -156,6 +157,25 @@ TEST(Blur, APictureWithoutColoursHasItsAlphaBlurredAsAnyOther) {
         ASSERT_EQ(picture.pixels,
                   Reference(before, GaussianKernel(radius), GaussianKernel(radius)).pixels)
             << "radius " << radius;
+    }
+}
+
+// A host may hand over pixels of a file in memory.
+TEST(Blur, PixelsMayBeginAtAnyAddress) {
+    for (bool black : {false, true}) {
+        Picture before = Noise(30, 20, 5);
+        if (black) std::ranges::for_each(before.pixels, [](ARGB& p) { p = {0, 0, 0, p.Alpha}; });
+        const BoxKernel kernel = GaussianKernel(3);
+        const Picture expected = Reference(before, kernel, kernel);
+        for (size_t offset = 0; offset < 4; ++offset) {
+            std::vector<ARGB> memory(before.pixels.size() + 1);
+            const std::span pixels(
+                reinterpret_cast<ARGB*>(reinterpret_cast<uint8_t*>(memory.data()) + offset),
+                before.pixels.size());
+            std::ranges::copy(before.pixels, pixels.begin());
+            Blur(pixels, before.width, before.Whole(), kernel, kernel);
+            ASSERT_TRUE(std::ranges::equal(pixels, expected.pixels)) << offset << black;
+        }
     }
 }
 

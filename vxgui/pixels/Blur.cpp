@@ -7,6 +7,7 @@
 
 #include "vxgui/pixels/BoxFilter.h"
 #include "vxgui/pixels/RowFilter.h"
+#include "vxgui/pixels/Steps.h"
 
 namespace vxgui {
 
@@ -162,7 +163,7 @@ void PartBlur<Channels>::Store(const uint8_t* from, ARGB* to, size_t count) cons
     if constexpr (Channels > 1) {
         std::memcpy(static_cast<void*>(to), from, count * Channels);
     } else {
-        auto* const words = reinterpret_cast<uint32_t*>(to);
+        steps::Words* const words = reinterpret_cast<steps::Words*>(to);
         for (size_t x = 0; x < count; ++x) words[x] = uint32_t{from[x]} << 24;  // all were black
     }
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Steps.h"
 
 // Expressions between named values have double precision: where a result lies on a half, that
 // decides. Products of a single and a channel, and sums with another channel, are exact in it.
@@ -35,7 +36,7 @@ using Places = std::array<float, kPixels>;  ///< on the circle, in sixths of it
 }
 
 VXGUI_MULTIVERSION(void, Load, (const ARGB* pixels, Colors& colors, size_t count)) {
-    const auto* const words = reinterpret_cast<const uint32_t*>(pixels);
+    const steps::Words* const words = steps::WordsOf(pixels);
     for (size_t i = 0; i < count; ++i) {
         colors.red[i] = static_cast<int32_t>(words[i] >> 16 & 255);
         colors.green[i] = static_cast<int32_t>(words[i] >> 8 & 255);
@@ -48,7 +49,7 @@ VXGUI_MULTIVERSION(void, Load, (const ARGB* pixels, Colors& colors, size_t count
 }
 
 VXGUI_MULTIVERSION(void, Store, (const Colors& colors, ARGB* pixels, size_t count)) {
-    auto* const words = reinterpret_cast<uint32_t*>(pixels);
+    steps::Words* const words = reinterpret_cast<steps::Words*>(pixels);
     for (size_t i = 0; i < count; ++i) {
         words[i] = (words[i] & 0xFF000000) | Bounded(colors.red[i]) << 16 |
                    Bounded(colors.green[i]) << 8 | Bounded(colors.blue[i]);
