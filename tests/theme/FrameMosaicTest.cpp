@@ -5,6 +5,7 @@
 #include <random>
 
 #include "vxgui/platform/gdi.h"
+#include "vxgui/platform/gdi_dib.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/surface/MosaicPaint.h"
 #include "vxgui/theme/ThemeItem.h"
@@ -117,35 +118,49 @@ TEST(FrameMosaic, FitsWhereNoBandsOverlapAndNoneIsTooLarge) {
     EXPECT_TRUE(bothFit(fits, Sliced(0, FrameMosaic::kMost)));
 }
 
-/// The tops and bands of each run of rows, as (top, bands, rows in each).
-std::vector<std::array<size_t, 3>> RunsOf(const FrameTiling& tiling) {
+/// The bands of each part and the rows in each, as (bands, rows).
+std::vector<std::array<size_t, 2>> PartsOf(const FrameTiling& tiling) {
     const SlicedAxis axis = Sliced(10, 100);
-    std::vector<std::array<size_t, 3>> runs;
-    FrameMosaic(axis, axis, tiling).Paint([&](int32_t top, auto bands) {
-        runs.push_back({static_cast<size_t>(top), bands.size(), bands[0].rows.size()});
-        return true;
-    });
-    return runs;
+    const FrameMosaic mosaic(axis, axis, tiling);
+    std::vector<std::array<size_t, 2>> parts;
+    for (const gdi::MosaicPart& part : mosaic.Parts())
+        parts.push_back({part.size(), part[0].rows.size()});
+    return parts;
 }
 
 TEST(FrameMosaic, IsOneBandUnlessItsTilingsDiffer) {
-    using Runs = std::vector<std::array<size_t, 3>>;
-    EXPECT_EQ(RunsOf({}), (Runs{{10, 1, 100}}));
-    EXPECT_EQ(RunsOf({true, true, true, true, true, true}), (Runs{{10, 1, 100}}));
-    EXPECT_EQ(RunsOf({.left = true}), (Runs{{10, 2, 100}}));
-    EXPECT_EQ(RunsOf({.down = true}), (Runs{{10, 3, 100}}));
-    EXPECT_EQ(RunsOf({.top = true}), (Runs{{10, 1, 4}, {14, 1, 96}}));
-    EXPECT_EQ(RunsOf({.across = true}), (Runs{{10, 1, 4}, {14, 1, 92}, {106, 1, 4}}));
+    using Parts = std::vector<std::array<size_t, 2>>;
+    EXPECT_EQ(PartsOf({}), (Parts{{1, 100}}));
+    EXPECT_EQ(PartsOf({true, true, true, true, true, true}), (Parts{{1, 100}}));
+    EXPECT_EQ(PartsOf({.left = true}), (Parts{{2, 100}}));
+    EXPECT_EQ(PartsOf({.down = true}), (Parts{{3, 100}}));
+    EXPECT_EQ(PartsOf({.top = true}), (Parts{{1, 4}, {1, 96}}));
+    EXPECT_EQ(PartsOf({.across = true}), (Parts{{1, 4}, {1, 92}, {1, 4}}));
 }
 
-TEST(FrameMosaic, EndsWhereTheFirstRunCannotBePainted) {
-    const SlicedAxis axis = Sliced(10, 100);
-    const FrameMosaic mosaic(axis, axis, {.across = true});
-    int calls = 0;
-    EXPECT_FALSE(mosaic.Paint([&](int32_t, auto) { return ++calls < 0; }));
-    EXPECT_EQ(calls, 1);
-    EXPECT_TRUE(mosaic.Paint([&](int32_t, auto) { return ++calls == 2; }));
-    EXPECT_EQ(calls, 4);
+/// What a frame leaves whose surface's context shows a lower picture, of which the frame's upper
+/// rows alone are there.
+template <class Surface>
+std::vector<uint32_t> PaintedFromALowerPicture() {
+    Canvas canvas(false);
+    const Ref<cAlphaDIBSection> image = New<Surface>();
+    image->Create(30, 30);
+    uint8_t* bits = nullptr;
+    const gdi::HBITMAP lower = gdi::CreateDib(30, 20, 32, &bits);
+    std::fill_n(bits, 30 * 20 * 4, uint8_t{90});
+    const gdi::HGDIOBJ before = gdi::SelectObject(image->hDC(), lower);
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->SetImage(image, 1, 0, PerPixel);
+    item->SetImageMargin(4, 4, 4, 4);
+    item->SetTile(TileXStretchY, 0, 0, 0, 0);
+    item->DrawBackground(canvas.dc, 0, 0, kWidth, kHeight, 0, -1);
+    gdi::SelectObject(image->hDC(), before);
+    gdi::DeleteObject(lower);
+    return canvas.words;
+}
+
+TEST(FrameMosaic, IsPaintedWholeOrPieceByPiece) {
+    EXPECT_EQ(PaintedFromALowerPicture<cAlphaDIBSection>(), PaintedFromALowerPicture<StandIn>());
 }
 
 }  // namespace

@@ -12,11 +12,14 @@ struct MosaicBand {
     std::span<const int32_t> rows;     ///< the source row that each row of the mosaic shows
 };
 
-/// A picture laid out by tables, so that many blits that don't overlap become one: bands side by
-/// side, all of one height.
+/// Bands side by side, all of one height.
+using MosaicPart = std::span<const MosaicBand>;
+
+/// A picture laid out by tables, so that many blits that don't overlap become one: parts one below
+/// the other.
 struct Mosaic {
     HDC source;
-    std::span<const MosaicBand> bands;
+    std::span<const MosaicPart> parts;
 };
 
 /// Fills a table with what a blit shows that stretches `sourceSize` source pixels from
@@ -25,9 +28,9 @@ VXPLATFORM_API void TabulateStretch(int32_t sourceStart, int32_t sourceSize,
                                     std::span<int32_t> sources);
 
 /// Has `merger` change the pixels of `dc` from (x, y) on by those of the mosaic; the clip counts.
-/// False, with nothing done, unless both contexts have 32-bit pixels, apart in memory, the bands
-/// are of one height, and every entry of a table lies inside the source. Then the caller does it
-/// blit by blit; a platform that can't look behind its contexts always says so.
+/// False, with nothing done, unless both contexts have 32-bit pixels, apart in memory, the bands of
+/// each part are of one height, and every entry of a table lies inside the source. Then the caller
+/// does it blit by blit; a platform that can't look behind its contexts always says so.
 VXPLATFORM_API bool MergeMosaic(HDC dc, int x, int y, const Mosaic& mosaic, WordMerger& merger);
 
 }  // namespace vxgui::gdi

@@ -31,9 +31,9 @@ bool MayPaintMosaics(const cAlphaDIBSection& surface) {
 }
 
 bool AlphaPaintMosaic(const cAlphaDIBSection& surface, gdi::HDC dc, int32_t x, int32_t y,
-                      std::span<const gdi::MosaicBand> bands, uint8_t alpha, bool hasAlpha) {
+                      std::span<const gdi::MosaicPart> parts, uint8_t alpha, bool hasAlpha) {
     MosaicBlender blender(alpha, hasAlpha);
-    return gdi::MergeMosaic(dc, x, y, {surface.hDC(), bands}, blender);
+    return gdi::MergeMosaic(dc, x, y, {surface.hDC(), parts}, blender);
 }
 
 }  // namespace vxgui

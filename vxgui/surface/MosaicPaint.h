@@ -12,6 +12,6 @@ bool MayPaintMosaics(const cAlphaDIBSection& surface);
 /// The same pixels as those calls leave, in one pass. False, with nothing painted, where it can't
 /// be done so: see `gdi::MergeMosaic`.
 bool AlphaPaintMosaic(const cAlphaDIBSection& surface, gdi::HDC dc, int32_t x, int32_t y,
-                      std::span<const gdi::MosaicBand> bands, uint8_t alpha, bool hasAlpha);
+                      std::span<const gdi::MosaicPart> parts, uint8_t alpha, bool hasAlpha);
 
 }  // namespace vxgui

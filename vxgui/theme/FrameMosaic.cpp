@@ -59,40 +59,44 @@ void FrameMosaic::Tables::Fill(const SlicedAxis& axis, bool tiled) {
 }
 
 FrameMosaic::FrameMosaic(const SlicedAxis& x, const SlicedAxis& y, const FrameTiling& tiling)
-    : x_(x),
-      y_(y),
-      tiling_(tiling),
-      columns_(x, !tiling.top || !tiling.bottom || !tiling.across,
+    : columns_(x, !tiling.top || !tiling.bottom || !tiling.across,
                tiling.top || tiling.bottom || tiling.across),
       rows_(y, !tiling.left || !tiling.right || !tiling.down,
-            tiling.left || tiling.right || tiling.down) {}
-
-std::array<FrameMosaic::Rows, 3> FrameMosaic::RowRuns(size_t* count) const {
-    const bool tiled[3] = {tiling_.top, tiling_.across, tiling_.bottom};
-    const Band* bands[3];
+            tiling.left || tiling.right || tiling.down) {
     std::array<Rows, 3> runs;
+    const size_t count = RunsOf(y, tiling, &runs);
+    for (; count_ < count; ++count_) {
+        parts_[count_] = PartOf(runs[count_], x, tiling, &bands_[count_]);
+    }
+}
+
+size_t FrameMosaic::RunsOf(const SlicedAxis& y, const FrameTiling& tiling,
+                           std::array<Rows, 3>* runs) {
+    const bool tiled[3] = {tiling.top, tiling.across, tiling.bottom};
+    const Band* bands[3];
+    size_t count = 0;
     int32_t at = 0;
     for (int i = 0; i < 3; ++i) {
-        const int32_t size = BandsIn(y_, bands)[i]->target.size;
-        if (size > 0 && *count > 0 && runs[*count - 1].tiled == tiled[i]) {
-            runs[*count - 1].size += size;
+        const int32_t size = BandsIn(y, bands)[i]->target.size;
+        if (size > 0 && count > 0 && (*runs)[count - 1].tiled == tiled[i]) {
+            (*runs)[count - 1].size += size;
         } else if (size > 0) {
-            runs[(*count)++] = {at, size, tiled[i]};
+            (*runs)[count++] = {at, size, tiled[i]};
         }
         at += size;
     }
-    return runs;
+    return count;
 }
 
 // Bands beside each other that show the same rows are one.
-std::span<const gdi::MosaicBand> FrameMosaic::BandsOf(const Rows& run,
-                                                      std::array<gdi::MosaicBand, 3>* bands) const {
-    const bool tiled[3] = {tiling_.left, tiling_.down, tiling_.right};
+gdi::MosaicPart FrameMosaic::PartOf(const Rows& run, const SlicedAxis& x, const FrameTiling& tiling,
+                                    Bands* bands) const {
+    const bool tiled[3] = {tiling.left, tiling.down, tiling.right};
     const Band* along[3];
     size_t count = 0;
     int32_t at = 0, first = 0;
     for (int i = 0; i < 3; ++i) {
-        const int32_t size = BandsIn(x_, along)[i]->target.size;
+        const int32_t size = BandsIn(x, along)[i]->target.size;
         const std::span<const int32_t> rows = rows_.Of(tiled[i], run.start, run.size);
         const bool same = count > 0 && (*bands)[count - 1].rows.data() == rows.data();
         if (size > 0) {

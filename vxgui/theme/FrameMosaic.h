@@ -29,20 +29,12 @@ public:
 
     /// For axes that fit.
     FrameMosaic(const SlicedAxis& x, const SlicedAxis& y, const FrameTiling& tiling);
+    FrameMosaic(const FrameMosaic&) = delete;
+    FrameMosaic& operator=(const FrameMosaic&) = delete;
 
-    /// Calls `paint(y, bands)` for each run of rows that are laid out alike, at most three: `y` is
-    /// the target's. Ends when it answers false for the first of them, and answers the same.
-    template <class PaintRun>
-    bool Paint(PaintRun paint) const {
-        size_t count = 0;
-        const std::array<Rows, 3> runs = RowRuns(&count);
-        for (size_t i = 0; i < count; ++i) {
-            std::array<gdi::MosaicBand, 3> bands;
-            const int32_t top = y_.near.target.start + runs[i].start;
-            if (!paint(top, BandsOf(runs[i], &bands)) && i == 0) return false;
-        }
-        return true;
-    }
+    /// The rows that are laid out alike, from the target's first on: at most three parts of at most
+    /// three bands.
+    std::span<const gdi::MosaicPart> Parts() const { return std::span(parts_).first(count_); }
 
 private:
     /// A run of rows with one layout of columns.
@@ -64,15 +56,18 @@ private:
 
         std::array<int32_t, kMost> entries_[2];
     };
-    std::array<Rows, 3> RowRuns(size_t* count) const;
-    std::span<const gdi::MosaicBand> BandsOf(const Rows& run,
-                                             std::array<gdi::MosaicBand, 3>* bands) const;
+    using Bands = std::array<gdi::MosaicBand, 3>;
 
-    const SlicedAxis& x_;
-    const SlicedAxis& y_;
-    const FrameTiling tiling_;
+    /// Fills in the runs from the top down and answers how many there are.
+    static size_t RunsOf(const SlicedAxis& y, const FrameTiling& tiling, std::array<Rows, 3>* runs);
+    gdi::MosaicPart PartOf(const Rows& run, const SlicedAxis& x, const FrameTiling& tiling,
+                           Bands* bands) const;
+
     const Tables columns_;
     const Tables rows_;
+    std::array<Bands, 3> bands_;
+    std::array<gdi::MosaicPart, 3> parts_;
+    size_t count_ = 0;
 };
 
 }  // namespace vxgui

@@ -99,9 +99,9 @@ bool PaintAsOne(gdi::HDC dc, const cAlphaDIBSection& image, const SlicedAxis& x,
                 const SlicedAxis& y, const FrameTiling& tiling, uint8_t alpha, bool perPixel) {
     if (!MayPaintMosaics(image) || !FrameMosaic::Fits(x, y, image.Width(), image.Height()))
         return false;
-    return FrameMosaic(x, y, tiling).Paint([&](int32_t top, auto bands) {
-        return AlphaPaintMosaic(image, dc, x.near.target.start, top, bands, alpha, perPixel);
-    });
+    const FrameMosaic mosaic(x, y, tiling);
+    return AlphaPaintMosaic(image, dc, x.near.target.start, y.near.target.start, mosaic.Parts(),
+                            alpha, perPixel);
 }
 
 }  // namespace

@@ -1,24 +1,11 @@
 #include "vxgui/platform/gdi_merge.h"
 
 #include <optional>
-#include <random>
 
-#include "GdiTestSupport.h"
+#include "MergeTestSupport.h"
 
 namespace vxgui::gdi {
 namespace {
-
-/// Tells the order of its operands, and every bit of both.
-uint32_t Mixed(uint32_t source, uint32_t target) { return source * 3 ^ target * 5; }
-
-class Mixer final : public WordMerger {
-public:
-    void Merge(const uint32_t* source, uint32_t* target, int32_t count) override {
-        ++calls;
-        for (int32_t i = 0; i < count; ++i) target[i] = Mixed(source[i], target[i]);
-    }
-    int calls = 0;
-};
 
 struct Axis {
     int start, extent, sourceStart, sourceExtent;
@@ -66,17 +53,6 @@ std::optional<std::vector<uint32_t>> Expected(const Canvas& target, const Canvas
         }
     }
     return words;
-}
-
-/// A clip of two rectangles that overlap or don't.
-void Clip(HDC dc, std::mt19937& random) {
-    const auto pick = [&] { return static_cast<int>(random() % 12); };
-    const HRGN region = CreateRectRgn(pick(), pick(), 4 + pick(), 4 + pick());
-    const HRGN other = CreateRectRgn(pick(), pick(), 4 + pick(), 4 + pick());
-    CombineRgn(region, region, other, RGN_OR);
-    SelectClipRgn(dc, region);
-    DeleteObject(region);
-    DeleteObject(other);
 }
 
 Axis RandomAxis(std::mt19937& random, int from, int to) {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <bitset>
+#include <optional>
 
 #include "vxgui/platform/gdi/BlitGeometry.h"
 #include "vxgui/platform/gdi/BlitReader.h"
@@ -17,18 +18,18 @@ bool Inside(std::span<const int32_t> table, int32_t size) {
     return most < static_cast<uint32_t>(size);
 }
 
-/// A mosaic over its source.
+/// A part of a mosaic over its source.
 class MosaicView {
 public:
-    MosaicView(const PixelTarget& source, std::span<const MosaicBand> bands)
-        : source_(source), bands_(bands) {}
+    MosaicView(const PixelTarget& source, MosaicPart bands) : source_(source), bands_(bands) {}
 
     /// All entries lie inside the source, and all bands have the height of the first.
     bool Whole() const {
-        return std::ranges::all_of(bands_, [this](const MosaicBand& band) {
-            return band.rows.size() == Height() && Inside(band.columns, source_.width) &&
-                   Inside(band.rows, source_.height);
-        });
+        return Width() <= INT32_MAX && Height() <= INT32_MAX &&
+               std::ranges::all_of(bands_, [this](const MosaicBand& band) {
+                   return band.rows.size() == Height() && Inside(band.columns, source_.width) &&
+                          Inside(band.rows, source_.height);
+               });
     }
     size_t Width() const {
         size_t width = 0;
@@ -36,7 +37,7 @@ public:
         return width;
     }
     size_t Height() const { return bands_.empty() ? 0 : bands_[0].rows.size(); }
-    std::span<const MosaicBand> Bands() const { return bands_; }
+    MosaicPart Bands() const { return bands_; }
 
     bool SameRow(size_t y, size_t other) const {
         return std::ranges::all_of(
@@ -52,15 +53,15 @@ public:
 
 private:
     const PixelTarget source_;
-    const std::span<const MosaicBand> bands_;
+    const MosaicPart bands_;
 };
 
-/// The rows of a mosaic, each laid out once. Where it has one band, and few enough source rows, all
+/// The rows of a part, each laid out once. Where it has one band, and few enough source rows, all
 /// that were laid out are kept: what is tiled or stretched downwards shows them again and again.
 class LaidRows {
 public:
     explicit LaidRows(const MosaicView& mosaic) : mosaic_(mosaic), width_(mosaic.Width()) {
-        if (mosaic.Bands().size() != 1) return;
+        if (mosaic.Bands().size() != 1 || mosaic.Height() == 0) return;
         const auto [least, most] = std::ranges::minmax(mosaic.Bands()[0].rows);
         const size_t rows = static_cast<size_t>(most - least) + 1;
         if (rows > kMostRows || rows * width_ > kMostWords || rows >= mosaic.Height()) return;
@@ -68,8 +69,9 @@ public:
         kept_ = rows;
     }
 
-    /// False when memory runs out.
-    bool Prepare() { return (words_ = block_.Take<uint32_t>(std::max<size_t>(kept_, 1) * width_)); }
+    /// How many words of memory it needs.
+    size_t Words() const { return std::max<size_t>(kept_, 1) * width_; }
+    void Use(uint32_t* words) { words_ = words; }
 
     /// The words of a row, until the next one is asked for.
     const uint32_t* At(size_t y) {
@@ -90,7 +92,6 @@ private:
 
     const MosaicView& mosaic_;
     const size_t width_;
-    ScratchBlock block_;
     uint32_t* words_ = nullptr;
     size_t last_ = kNone;
     int32_t first_ = 0;
@@ -98,10 +99,25 @@ private:
     std::bitset<kMostRows> laid_;
 };
 
-/// Merges what may be drawn on of a mosaic whose first pixel goes to (x, y).
-void MergeRows(const DeviceContext& dc, const RECT& area, int32_t x, int32_t y, LaidRows& rows,
-               WordMerger& merger) {
+/// The memory that the largest of the parts needs; none when one isn't whole.
+std::optional<size_t> WordsFor(const PixelTarget& source, std::span<const MosaicPart> parts) {
+    size_t most = 1;
+    for (const MosaicPart& part : parts) {
+        const MosaicView view(source, part);
+        if (!view.Whole()) return {};
+        most = std::max(most, LaidRows(view).Words());
+    }
+    return most;
+}
+
+/// Merges what may be drawn on of a part whose first pixel goes to (x, y).
+void MergePart(const DeviceContext& dc, int32_t x, int32_t y, const MosaicView& view,
+               uint32_t* words, WordMerger& merger) {
+    LaidRows rows(view);
+    rows.Use(words);
     const PixelTarget target = dc.Target();
+    const RECT area =
+        RectFromExtents(x, y, static_cast<int>(view.Width()), static_cast<int>(view.Height()));
     ForEachClipRect(dc, area, [&](const RECT& part) {
         for (int32_t at = part.top; at < part.bottom; ++at) {
             const uint32_t* const row = rows.At(static_cast<size_t>(int64_t{at} - y));
@@ -127,13 +143,16 @@ bool MergeMosaic(HDC handle, int x, int y, const Mosaic& mosaic, WordMerger& mer
     if (!dc || !from) return false;
     const PixelTarget source = from->Target(), target = dc->Target();
     if (source.depth != 32 || target.depth != 32 || ShareMemory(source, target)) return false;
-    const MosaicView view(source, mosaic.bands);
-    if (!view.Whole() || view.Width() > INT32_MAX || view.Height() > INT32_MAX) return false;
-    LaidRows rows(view);
-    if (!rows.Prepare()) return false;
-    const RECT area =
-        RectFromExtents(x, y, static_cast<int>(view.Width()), static_cast<int>(view.Height()));
-    MergeRows(*dc, area, x, y, rows, merger);
+    const std::optional<size_t> count = WordsFor(source, mosaic.parts);
+    ScratchBlock block;
+    auto* const words = count ? block.Take<uint32_t>(*count) : nullptr;
+    if (!words) return false;
+    int64_t top = y;
+    for (const MosaicPart& part : mosaic.parts) {
+        const MosaicView view(source, part);
+        if (top <= INT32_MAX) MergePart(*dc, x, static_cast<int32_t>(top), view, words, merger);
+        top += static_cast<int64_t>(view.Height());
+    }
     return true;
 }
 
