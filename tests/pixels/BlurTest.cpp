@@ -109,7 +109,7 @@ TEST(Blur, AgreesWithTheWeightedSumsAtEverySize) {
     }
 }
 
-TEST(Blur, ColumnsThatAreFilteredInGroupsReachIntoEachOther) {
+TEST(Blur, RowsLongerThanABlockAgreeWithTheWeightedSums) {
     for (int32_t radius = 1; radius <= 9; ++radius) {
         const Picture before = Noise(300, 7, static_cast<uint32_t>(radius));
         Picture picture = before;
@@ -120,7 +120,6 @@ TEST(Blur, ColumnsThatAreFilteredInGroupsReachIntoEachOther) {
     }
 }
 
-// The taller a picture, the fewer columns are filtered at a time.
 TEST(Blur, AWideKernelReadsNoColumnThatIsBlurredAlready) {
     for (int32_t extent : {33, 41, 128, 255}) {
         for (bool black : {false, true}) {

@@ -5,8 +5,11 @@
 #include <memory>
 #include <vector>
 
+#include "vxgui/pixels/BlurPart.h"
 #include "vxgui/pixels/BoxFilter.h"
-#include "vxgui/pixels/RowFilter.h"
+#include "vxgui/pixels/Lanes.h"
+#include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/ShortBlur.h"
 #include "vxgui/pixels/Steps.h"
 
 namespace vxgui {
@@ -25,25 +28,11 @@ Range Reached(int64_t first, int64_t last, const BoxKernel& kernel, int64_t size
             std::min<int64_t>(last + kernel.Reach() + 1, size)};
 }
 
-/// A part of a picture: rows that are `stride` pixels apart.
-struct Part {
-    ARGB* pixels;
-    size_t width, height, stride;
-
-    ARGB* Row(size_t y) const { return pixels + y * stride; }
-};
-
-/// What the kernels reach, and where the part that is blurred begins in it.
-struct Reach {
-    Part source, target;
-    size_t left, top;
-};
-
-/// The blur of all channels of each pixel, or of the alpha alone.
+/// The blur by boxes that slide, of all channels of each pixel or of the alpha alone.
 template <size_t Channels>
 class PartBlur {
 public:
-    PartBlur(const Reach& reach, const BoxKernel& horizontal, const BoxKernel& vertical)
+    PartBlur(const BlurReach& reach, const BoxKernel& horizontal, const BoxKernel& vertical)
         : reach_(reach),
           source_(reach.source),
           horizontal_(horizontal),
@@ -51,13 +40,7 @@ public:
           pitch_(source_.height | 1),
           results_(source_.height) {}
 
-    void Run() {
-        if (auto filter = RowFilter::Of(horizontal_, source_.width, Channels == 1)) {
-            ByRows(*filter);
-        } else {
-            ByStrips();
-        }
-    }
+    void Run();
 
 private:
     static constexpr size_t kPixels = kStripLanes / Channels;  ///< in a row of a strip
@@ -70,41 +53,20 @@ private:
     static uint8_t* Bytes(ARGB* pixel) { return reinterpret_cast<uint8_t*>(pixel) + kFirst; }
     size_t ColumnCount() const { return (source_.width + kPixels - 1) / kPixels; }
 
-    void ByRows(RowFilter& filter);
-    void ByStrips();
     void Pack(size_t top, size_t lines, ByteRow* strip) const;
     void Unpack(const WordRow* strip, size_t top, size_t lines, Columns& columns) const;
     void Vertically(const WordRow* column, size_t number);
     void Store(const uint8_t* from, ARGB* to, size_t count) const;
 
-    const Reach reach_;
-    const Part source_;
+    const BlurReach reach_;
+    const BlurPart source_;
     const BoxKernel horizontal_, vertical_;
     const size_t pitch_;
     std::vector<ByteRow> results_;
 };
 
-// Some columns at a time, so that they stay in the cache. The next ones are read before the last
-// ones are written, as each reaches into its neighbour.
 template <size_t Channels>
-void PartBlur<Channels>::ByRows(RowFilter& filter) {
-    constexpr size_t kCachedRows = 2048;
-    const size_t group = std::clamp<size_t>(kCachedRows / pitch_, 1, 8), count = ColumnCount();
-    Columns last(group * pitch_), next(group * pitch_);
-    for (size_t first = 0; first < count + group; first += group) {
-        for (size_t y = 0; first < count && y < source_.height; ++y) {
-            filter.Filter(source_.Row(y), first * kStripLanes, std::min(group, count - first),
-                          &next[y], pitch_);
-        }
-        for (size_t i = 0; first > 0 && i < group && first - group + i < count; ++i) {
-            Vertically(&last[i * pitch_], first - group + i);
-        }
-        std::swap(last, next);
-    }
-}
-
-template <size_t Channels>
-void PartBlur<Channels>::ByStrips() {
+void PartBlur<Channels>::Run() {
     Columns columns(ColumnCount() * pitch_);
     std::vector<ByteRow> samples(source_.width);
     std::vector<WordRow> means(ColumnCount() * kPixels);
@@ -147,7 +109,7 @@ void PartBlur<Channels>::Unpack(const WordRow* strip, size_t top, size_t lines,
 
 template <size_t Channels>
 void PartBlur<Channels>::Vertically(const WordRow* column, size_t number) {
-    const Part& target = reach_.target;
+    const BlurPart& target = reach_.target;
     const size_t from = number * kPixels, right = reach_.left + target.width;
     if (from + kPixels <= reach_.left || from >= right) return;
     FilterWords({column, source_.height}, results_, vertical_);
@@ -168,15 +130,16 @@ void PartBlur<Channels>::Store(const uint8_t* from, ARGB* to, size_t count) cons
     }
 }
 
+VXGUI_MULTIVERSION(bool, IsBlackRow, (const ARGB* pixels, size_t count)) {
+    uint32_t any = 0;
+    for (size_t i = 0; i < count; ++i) any |= lanes::Load(pixels[i]);
+    return (any & lanes::kColor) == 0;
+}
+
 /// Whether the colours are 0 throughout, as those of a black shadow: they stay so.
-bool IsBlack(const Part& part) {
+bool IsBlack(const BlurPart& part) {
     for (size_t y = 0; y < part.height; ++y) {
-        const ARGB* const row = part.Row(y);
-        uint32_t colors = 0;
-        for (size_t x = 0; x < part.width; ++x) {
-            colors |= static_cast<uint32_t>(row[x].Blue | row[x].Green | row[x].Red);
-        }
-        if (colors != 0) return false;
+        if (!IsBlackRow(part.Row(y), part.width)) return false;
     }
     return true;
 }
@@ -193,13 +156,17 @@ void Blur(std::span<ARGB> pixels, int32_t width, const PixelBox& rectangle,
     const Range columns = Reached(left, right, horizontal, width);
     const Range rows = Reached(top, bottom, vertical, height);
     const auto part = [&](const Range& across, const Range& down) {
-        return Part{pixels.data() + down.begin * width + across.begin, across.Size(), down.Size(),
-                    static_cast<size_t>(width)};
+        return BlurPart{pixels.data() + down.begin * width + across.begin, across.Size(),
+                        down.Size(), static_cast<size_t>(width)};
     };
-    const Reach reach{
+    const BlurReach reach{
         part(columns, rows), part({left, int64_t{right} + 1}, {top, int64_t{bottom} + 1}),
         static_cast<size_t>(left - columns.begin), static_cast<size_t>(top - rows.begin)};
-    if (IsBlack(reach.source)) {
+    const bool black = IsBlack(reach.source);
+    const auto across = ShortKernel::Of(horizontal), down = ShortKernel::Of(vertical);
+    if (across && down) {
+        ShortBlur(reach, *across, *down, black).Run();
+    } else if (black) {
         PartBlur<1>(reach, horizontal, vertical).Run();
     } else {
         PartBlur<sizeof(ARGB)>(reach, horizontal, vertical).Run();
