@@ -34,10 +34,14 @@ float Step(int32_t size, int32_t targetSize) {
 }
 
 /// Rounds a value of 0 to 255, halves to even: added to 1.5 * 2^23 it leaves the integer in the
-/// lowest bits.
+/// lowest bits, with those of `kRounder` above.
 [[gnu::always_inline]] inline uint32_t Rounded(float value) {
-    return std::bit_cast<uint32_t>(value + 12582912.0F) & 255;
+    return std::bit_cast<uint32_t>(value + 12582912.0F);
 }
+constexpr uint32_t kRounder = std::bit_cast<uint32_t>(12582912.0F);
+/// What those of channels that were shifted to their places add up to.
+constexpr uint32_t kRounders = kRounder + (kRounder << 8) + (kRounder << 16) + (kRounder << 24);
+constexpr uint32_t kColorRounders = kRounders - (kRounder << 24);
 
 [[gnu::always_inline]] inline float Channel(uint32_t pixel, int shift) {
     return static_cast<float>(static_cast<int32_t>(pixel >> shift & 255));
@@ -47,9 +51,9 @@ VXGUI_MULTIVERSION(void, MixRows,
                    (const uint32_t* __restrict upper, const uint32_t* __restrict lower, float first,
                     float second, uint32_t* __restrict mixed, size_t count)) {
     for (size_t i = 0; i < count; ++i) {
-        uint32_t pixel = 0;
+        uint32_t pixel = 0u - kRounders;
         for (int shift = 0; shift < 32; shift += 8) {
-            pixel |= Rounded(first * Channel(upper[i], shift) + second * Channel(lower[i], shift))
+            pixel += Rounded(first * Channel(upper[i], shift) + second * Channel(lower[i], shift))
                      << shift;
         }
         mixed[i] = pixel;
@@ -63,9 +67,9 @@ VXGUI_MULTIVERSION(void, MixColumns,
     for (size_t i = 0; i < count; ++i) {
         const auto left = static_cast<uint32_t>(places[i]);
         const auto right = static_cast<uint32_t>(places[i] >> 8 * kNeighbour);
-        uint32_t mixed = target[i] & 0xFF000000;
+        uint32_t mixed = (target[i] & 0xFF000000) - kColorRounders;
         for (int shift = 0; shift < 24; shift += 8) {
-            mixed |= Rounded(first[i] * Channel(left, shift) + second[i] * Channel(right, shift))
+            mixed += Rounded(first[i] * Channel(left, shift) + second[i] * Channel(right, shift))
                      << shift;
         }
         target[i] = mixed;
