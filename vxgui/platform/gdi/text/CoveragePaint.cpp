@@ -1,9 +1,8 @@
 #include "vxgui/platform/gdi/text/CoveragePaint.h"
 
 #include <algorithm>
-#include <cstring>
 
-#include "vxgui/platform/gdi/PixelMix.h"
+#include "vxgui/pixels/CoverageMix.h"
 #include "vxgui/platform/gdi/PixelRows.h"
 
 namespace vxgui::gdi {
@@ -22,36 +21,19 @@ uint32_t BlendColor(uint32_t target, uint32_t color, uint32_t coverage) {
            BlendChannel(target, color, coverage, 16);
 }
 
-// The same in 32-bit words, two channels at a time and without a jump: most rows are a few pixels
-// of a glyph, in which coverage comes and goes.
-template <class Coverage>
-void BlendWords(uint8_t* row, int32_t count, uint32_t color, const Coverage& coverage) {
-    for (int32_t i = 0; i < count; ++i, row += sizeof color) {
-        uint32_t word;
-        std::memcpy(&word, row, sizeof word);
-        const uint32_t part = coverage(i), mixed = MixByConstant(color, word, part) & 0xFFFFFF;
-        word = part == 0 ? word : mixed;
-        std::memcpy(row, &word, sizeof word);
-    }
-}
-
 }  // namespace
 
 CoveragePaint::CoveragePaint(const PixelTarget& target, uint32_t color)
     : target_(target), color_(color), matcher_(target) {}
 
-template <class Coverage>
-void CoveragePaint::Blend(int32_t x, int32_t y, int32_t count, const Coverage& coverage) {
-    if (target_.depth == 32) {
-        return BlendWords(target_.Row(y) + ptrdiff_t{x} * 4, count, color_, coverage);
-    }
+void CoveragePaint::BlendWords(int32_t x, int32_t y, int32_t count, const uint8_t* coverage) {
     const MonoColors mono;
     uint32_t words[kRun];
     for (int32_t done = 0; done < count; done += kRun) {
         const int32_t run = std::min(kRun, count - done);
         LoadRow(target_, x + done, y, run, words);
         for (int32_t i = 0; i < run; ++i) {
-            uint32_t part = coverage(done + i);
+            uint32_t part = coverage[done + i];
             if (target_.depth == 1) part = part >= 128 ? 255 : 0;
             if (part == 0) continue;
             words[i] = matcher_.Word(BlendColor(ColorOf(target_, words[i], mono), color_, part));
@@ -61,11 +43,17 @@ void CoveragePaint::Blend(int32_t x, int32_t y, int32_t count, const Coverage& c
 }
 
 void CoveragePaint::Row(int32_t x, int32_t y, int32_t count, const uint8_t* coverage) {
-    Blend(x, y, count, [coverage](int32_t i) { return coverage[i]; });
+    if (target_.depth != 32) return BlendWords(x, y, count, coverage);
+    MixByCoverage({coverage, static_cast<size_t>(count)},
+                  reinterpret_cast<ARGB*>(target_.Row(y)) + x,
+                  ARGBFromValue(static_cast<int32_t>(color_)));
 }
 
 void CoveragePaint::Row(int32_t x, int32_t y, int32_t count, uint8_t coverage) {
-    Blend(x, y, count, [coverage](int32_t) { return coverage; });
+    uint8_t bytes[kRun];
+    std::fill_n(bytes, std::clamp(count, 0, kRun), coverage);
+    for (int32_t done = 0; done < count; done += kRun)
+        Row(x + done, y, std::min(kRun, count - done), bytes);
 }
 
 void CoveragePaint::Fill(const RECT& rect) {

@@ -21,8 +21,7 @@ public:
     void Fill(const RECT& rect);
 
 private:
-    template <class Coverage>
-    void Blend(int32_t x, int32_t y, int32_t count, const Coverage& coverage);
+    void BlendWords(int32_t x, int32_t y, int32_t count, const uint8_t* coverage);
 
     const PixelTarget& target_;
     const uint32_t color_;

@@ -98,7 +98,19 @@ void LinePainter::PaintPrefix(const TextLine& line, size_t unit, int64_t x, int6
               SwapRedAndBlue(context_.state.textColor));
 }
 
+// A text with spacing, and a long one, is laid out anew each time: its image would never be found.
+const LineImage* LinePainter::ImageOf(const LinePart& part) const {
+    const bool kept =
+        setup_.spacing.None() && part.shaped->advances.size() <= ShapedTextCache::kLongestLine;
+    if (!kept || font_.Angle() != 0) return nullptr;
+    return setup_.engine.Lines().Find(part.shaped, font_, setup_.engine.Glyphs());
+}
+
 void LinePainter::PaintPart(const LinePart& part, Point pen) {
+    if (const LineImage* image = ImageOf(part)) {
+        for (const GlyphImage& layer : *image) PaintImage(layer, {pen.x + part.x, pen.y});
+        return;
+    }
     int64_t along = part.x;
     for (const ShapedGlyph& glyph : part.shaped->glyphs) {
         if (glyph.ink) PaintGlyph(glyph, Turned(pen, along + glyph.dx, glyph.dy));

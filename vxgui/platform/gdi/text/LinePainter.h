@@ -28,6 +28,7 @@ private:
     Point PenOf(const TextLine& line, int64_t x, int64_t y) const;
     Point Turned(Point pen, int64_t along, int64_t above) const;
     void PaintPart(const LinePart& part, Point pen);
+    const LineImage* ImageOf(const LinePart& part) const;
     void PaintGlyph(const ShapedGlyph& glyph, Point pen);
     void PaintImage(const GlyphImage& image, Point pen);
     void PaintLoaded(const UsedFace& used, Point pen);

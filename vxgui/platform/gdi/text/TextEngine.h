@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "vxgui/platform/gdi/text/GlyphCache.h"
+#include "vxgui/platform/gdi/text/LineImages.h"
 #include "vxgui/platform/gdi/text/LruCache.h"
 #include "vxgui/platform/gdi/text/RealizedFont.h"
 #include "vxgui/platform/gdi/text/ShapedTextCache.h"
@@ -41,6 +42,7 @@ public:
     PangoAttrList* Attributes() const { return attributes_; }
     GlyphCache& Glyphs() { return *glyphs_; }
     ShapedTextCache& Shapes() { return shapes_; }
+    LineImages& Lines() { return lines_; }
 
 private:
     /// As yet without a glyph cache: that may run out of memory, and the rest is then cleaned up.
@@ -55,6 +57,7 @@ private:
     std::unordered_map<std::string, std::weak_ptr<FontFace>> faces_;
     LruCache<LOGFONTA, std::shared_ptr<RealizedFont>, LogFontHash, LogFontEqual> fonts_{kKeptFonts};
     ShapedTextCache shapes_;
+    LineImages lines_;
     std::unique_ptr<GlyphCache> glyphs_;
     uint64_t lastFontId_ = 0;
 };
