@@ -24,6 +24,9 @@ public:
     /// in the order in which the values stand.
     Variant ReadProperty(std::string_view name);
     bool Has(std::string_view name);
+    /// The same for an integer, without a variant: stores it, or stores nothing where nothing
+    /// stands under the name. False for a value of another kind.
+    bool ReadInteger(std::string_view name, int32_t* value);
 
 private:
     struct Store;

@@ -52,6 +52,52 @@ TEST(BagReader, ReadsOneBagAfterTheOther) {
     EXPECT_FALSE(reader.Has("Width"));
 }
 
+TEST(BagReader, ReadsBagsWhoseNamesComeInOtherOrdersAndAreOthers) {
+    const char* const names[] = {"Width", "height", "Left", "A name of more than 24 bytes"};
+    BagReader reader;
+    for (size_t bag = 0; bag < 200; ++bag) {
+        const Ref<PropertyBag> written = New<PropertyBag>();
+        for (size_t i = 0; i < 4; ++i) {
+            const size_t n = bag % 5 < 3 ? i : (bag + 3 - i) % 4;
+            const String name = bag % 3 == 1 ? String(names[n]).Lower() : names[n];
+            if ((bag + n) % 6 != 0) written->WriteProperty(name, static_cast<int32_t>(bag * 5 + n));
+            if (bag % 4 == i) written->WriteProperty(bag % 8 < 4 ? "Über" : "ÜBER", 1);
+        }
+        const ByteArray contents = written->Contents();
+        reader.Open(contents);
+        for (const char* name : names) {
+            EXPECT_EQ(reader.ReadProperty(name), written->ReadProperty(name)) << bag << name;
+        }
+    }
+}
+
+TEST(BagReader, RefusesANameThatStandsTwiceAfterBagsWhereItStoodOnce) {
+    BagReader reader;
+    const ByteArray good{0xA2, 0x61, 'a', 0x01, 0x61, 'b', 0x02};
+    const ByteArray twice{0xA3, 0x61, 'a', 0x01, 0x61, 'b', 0x02, 0x61, 'a', 0x03};
+    for (int i = 0; i < 3; ++i) {
+        reader.Open(good);
+        EXPECT_EQ(reader.ReadProperty("b"), Variant(2));
+        EXPECT_THROW(reader.Open(twice), Error);
+        EXPECT_FALSE(reader.Has("a"));
+    }
+}
+
+TEST(BagReader, ReadsIntegersAndLeavesWhatIsNoneAlone) {
+    const ByteArray contents = SampleBag()->Contents();
+    BagReader reader;
+    reader.Open(contents);
+    int32_t value = 3;
+    EXPECT_TRUE(reader.ReadInteger("Absent", &value));
+    EXPECT_FALSE(reader.ReadInteger("Shown", &value));
+    EXPECT_FALSE(reader.ReadInteger("Half", &value));
+    EXPECT_EQ(value, 3);
+    EXPECT_TRUE(reader.ReadInteger("BELOW", &value));
+    EXPECT_EQ(value, -7);
+    EXPECT_TRUE(reader.ReadInteger("Width", &value));
+    EXPECT_EQ(value, 120);
+}
+
 /// What is raised for contents, by the bag itself or by a reader.
 String Refusal(const ByteArray& contents, bool inPlace) {
     try {

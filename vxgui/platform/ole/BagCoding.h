@@ -25,11 +25,12 @@ struct BagItem {
     uint64_t number = 0;  ///< of a map: entries; of a negative integer n: -1 - n
     double real = 0;
     std::string_view data;
-};
 
-struct NamedItem {
-    std::string_view name;
-    BagItem value;
+    bool IsInteger() const { return kind == Kind::Positive || kind == Kind::Negative; }
+    int32_t Integer() const {
+        const auto value = static_cast<int32_t>(number);
+        return kind == Kind::Negative ? ~value : value;
+    }
 };
 
 /// The entries as a CBOR map (RFC 8949) of definite length from text strings to simple values:
@@ -41,9 +42,33 @@ ByteArray EncodeBag(const std::vector<BagEntry>& entries);
 /// for what is there, not for what a length claims. Names are not compared.
 std::vector<BagEntry> DecodeBag(const ByteArray& bytes);
 
-/// The same in place: all that `DecodeBag` refuses is refused, and nothing is copied.
-void DecodeItems(std::span<const uint8_t> bytes, std::vector<NamedItem>* items);
-/// The value of an item that `DecodeItems` gave, as a variant or a bag's value.
+/// The same in place, item by item: all that `DecodeBag` refuses is refused, and nothing is copied.
+class BagDecoder {
+public:
+    explicit BagDecoder(std::span<const uint8_t> bytes) : bytes_(bytes) {}
+
+    /// Comes first: how many entries follow, each a name and a value.
+    size_t Entries();
+    std::string_view Name();
+    /// Whether the next name is this one, of less than 24 bytes in the shortest form: then it is
+    /// passed. A shorter way than `Name`.
+    bool PassName(std::string_view name);
+    BagItem Value();
+    /// Comes last: refuses what follows the entries.
+    void End() const;
+
+private:
+    BagItem Next();
+    void CheckText(const BagItem& item) const;
+    void CheckInteger(const BagItem& item) const;
+    [[noreturn]] void Refuse(const char* why) const;
+
+    const std::span<const uint8_t> bytes_;
+    size_t start_ = 0;  ///< of the item that was read last
+    size_t at_ = 0;
+};
+
+/// The value of an item that a decoder gave, as a variant or a bag's value.
 template <class Value>
 Value ValueOf(const BagItem& item) {
     switch (item.kind) {
@@ -54,9 +79,8 @@ Value ValueOf(const BagItem& item) {
         case BagItem::Kind::Boolean:
             return item.number != 0;
         case BagItem::Kind::Positive:
-            return static_cast<int32_t>(item.number);
         case BagItem::Kind::Negative:
-            return ~static_cast<int32_t>(item.number);
+            return item.Integer();
         case BagItem::Kind::Float:
             return static_cast<float>(item.real);
         default:

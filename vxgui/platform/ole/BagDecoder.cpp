@@ -1,5 +1,6 @@
 #include <cbor/streaming.h>
 
+#include <cstring>
 #include <limits>
 
 #include "vxgui/base/Error.h"
@@ -53,96 +54,97 @@ cbor_callbacks Callbacks() {
     return callbacks;
 }
 
-class Decoder {
-public:
-    explicit Decoder(std::span<const uint8_t> bytes) : bytes_(bytes) {}
+// A text of less bytes than this has its length in its first byte.
+constexpr size_t kShortText = 24;
+constexpr uint8_t kText = 0x60;
 
-    void Decode(std::vector<NamedItem>* items) {
-        const Item map = Next();
-        if (map.kind != Item::Kind::Map) Refuse("There is no map");
-        // An entry takes two bytes at the least.
-        if (map.number > (bytes_.size() - at_) / 2) Refuse("More entries than bytes are claimed");
-        if (map.number > ApartmentLimits().bagEntries) Refuse("More entries than the limit allows");
-        while (items->size() < map.number) {
-            const std::string_view name = Name();
-            items->push_back({name, Value()});
-        }
-        if (at_ < bytes_.size()) Refuse("Something follows the map", at_);
-    }
-
-private:
-    Item Next() {
-        static const cbor_callbacks callbacks = Callbacks();
-        Item item;
-        const cbor_decoder_result result =
-            cbor_stream_decode(bytes_.data() + at_, bytes_.size() - at_, &callbacks, &item);
-        start_ = at_;
-        at_ += result.read;
-        if (result.status == CBOR_DECODER_NEDATA) Refuse("The contents end early");
-        if (result.status != CBOR_DECODER_FINISHED) Refuse("A malformed item");
-        return item;
-    }
-
-    std::string_view Name() {
-        const Item name = Next();
-        if (name.kind != Item::Kind::Text) Refuse("A name that is no text");
-        CheckText(name);
-        return name.data;
-    }
-
-    Item Value() {
-        const Item item = Next();
-        switch (item.kind) {
-            case Item::Kind::Other:
-            case Item::Kind::Map:
-                Refuse("A value of a kind that no property has");
-            case Item::Kind::Text:
-                CheckText(item);
-                return item;
-            case Item::Kind::Positive:
-            case Item::Kind::Negative:
-                CheckInteger(item);
-                return item;
-            default:
-                return item;
-        }
-    }
-
-    void CheckText(const Item& item) {
-        if (!IsUtf8(item.data)) Refuse("Text that is not UTF-8");
-    }
-
-    void CheckInteger(const Item& item) {
-        if (item.number > static_cast<uint64_t>(std::numeric_limits<int32_t>::max())) {
-            Refuse("An integer of more than 32 bits");
-        }
-    }
-
-    // At the item that was read last, unless `place` says otherwise.
-    [[noreturn]] void Refuse(const char* why) { Refuse(why, start_); }
-    [[noreturn]] static void Refuse(const char* why, size_t place) {
-        RefuseBag(String(why) + ", at byte " + String::FromInt(static_cast<int64_t>(place)));
-    }
-
-    const std::span<const uint8_t> bytes_;
-    size_t start_ = 0;
-    size_t at_ = 0;
-};
+[[noreturn]] void RefuseAt(const char* why, size_t place) {
+    RefuseBag(String(why) + ", at byte " + String::FromInt(static_cast<int64_t>(place)));
+}
 
 }  // namespace
 
-void DecodeItems(std::span<const uint8_t> bytes, std::vector<NamedItem>* items) {
-    items->clear();
-    Decoder(bytes).Decode(items);
+size_t BagDecoder::Entries() {
+    const Item map = Next();
+    if (map.kind != Item::Kind::Map) Refuse("There is no map");
+    // An entry takes two bytes at the least.
+    if (map.number > (bytes_.size() - at_) / 2) Refuse("More entries than bytes are claimed");
+    if (map.number > ApartmentLimits().bagEntries) Refuse("More entries than the limit allows");
+    return static_cast<size_t>(map.number);
 }
 
+std::string_view BagDecoder::Name() {
+    const Item name = Next();
+    if (name.kind != Item::Kind::Text) Refuse("A name that is no text");
+    CheckText(name);
+    return name.data;
+}
+
+bool BagDecoder::PassName(std::string_view name) {
+    const size_t size = name.size();
+    if (size >= kShortText || bytes_.size() - at_ <= size || bytes_[at_] != (kText | size) ||
+        std::memcmp(&bytes_[at_] + 1, name.data(), size) != 0) {
+        return false;
+    }
+    start_ = at_;
+    at_ += 1 + size;
+    return true;
+}
+
+BagItem BagDecoder::Value() {
+    const Item item = Next();
+    switch (item.kind) {
+        case Item::Kind::Other:
+        case Item::Kind::Map:
+            Refuse("A value of a kind that no property has");
+        case Item::Kind::Text:
+            CheckText(item);
+            return item;
+        case Item::Kind::Positive:
+        case Item::Kind::Negative:
+            CheckInteger(item);
+            return item;
+        default:
+            return item;
+    }
+}
+
+void BagDecoder::End() const {
+    if (at_ < bytes_.size()) RefuseAt("Something follows the map", at_);
+}
+
+BagItem BagDecoder::Next() {
+    static const cbor_callbacks callbacks = Callbacks();
+    Item item;
+    const cbor_decoder_result result =
+        cbor_stream_decode(bytes_.data() + at_, bytes_.size() - at_, &callbacks, &item);
+    start_ = at_;
+    at_ += result.read;
+    if (result.status == CBOR_DECODER_NEDATA) Refuse("The contents end early");
+    if (result.status != CBOR_DECODER_FINISHED) Refuse("A malformed item");
+    return item;
+}
+
+void BagDecoder::CheckText(const BagItem& item) const {
+    if (!IsUtf8(item.data)) Refuse("Text that is not UTF-8");
+}
+
+void BagDecoder::CheckInteger(const BagItem& item) const {
+    if (item.number > static_cast<uint64_t>(std::numeric_limits<int32_t>::max())) {
+        Refuse("An integer of more than 32 bits");
+    }
+}
+
+void BagDecoder::Refuse(const char* why) const { RefuseAt(why, start_); }
+
 std::vector<BagEntry> DecodeBag(const ByteArray& bytes) {
-    std::vector<NamedItem> items;
-    DecodeItems(bytes, &items);
+    BagDecoder from(bytes);
     std::vector<BagEntry> entries;
-    entries.reserve(items.size());
-    for (const NamedItem& item : items)
-        entries.push_back({item.name, ValueOf<BagValue>(item.value)});
+    for (size_t count = from.Entries(); entries.size() < count;) {
+        String name = from.Name();
+        entries.push_back({std::move(name), ValueOf<BagValue>(from.Value())});
+    }
+    from.End();
     return entries;
 }
 

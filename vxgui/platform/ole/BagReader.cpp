@@ -1,66 +1,47 @@
-#include <deque>
-
-#include "vxgui/base/NameIndex.h"
 #include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/limits.h"
-#include "vxgui/platform/ole/BagCoding.h"
+#include "vxgui/platform/ole/BagNames.h"
 #include "vxgui/platform/ole_bag.h"
 
 namespace vxgui::ole {
-namespace {
-
-constexpr size_t kSmallBag = 1000;
-
-bool IsAscii(std::string_view text) {
-    for (const char byte : text)
-        if (static_cast<uint8_t>(byte) >= 0x80) return false;
-    return true;
-}
-
-}  // namespace
 
 struct BagReader::Store {
-    std::vector<NamedItem> items;
-    NameIndex places;
-    std::deque<std::string> foldedNames;  ///< of items whose names have other letters than ASCII
-    size_t next = 0;                      ///< the item behind the one that was read last
-
     void Open(std::span<const uint8_t> contents) {
         Empty();
         if (contents.size() > ApartmentLimits().bagBytes)
             RefuseBag("More bytes than the limit allows");
-        if (!contents.empty()) DecodeItems(contents, &items);
-        for (size_t at = 0; at < items.size(); ++at) Enter(at);
+        if (contents.empty()) return;
+        BagDecoder from(contents);
+        for (size_t count = from.Entries(); entries.size() < count;) {
+            const size_t name = names.Take(from, entries.size());
+            entries.push_back({name, from.Value()});
+        }
+        from.End();
     }
 
     void Empty() {
-        // What one large bag took isn't cleared for each of the small ones that follow.
-        if (items.size() > kSmallBag) places = {};
-        items.clear();
-        places.Clear();
-        foldedNames.clear();
+        entries.clear();
+        names.Begin();
         next = 0;
     }
 
     const BagItem* Find(std::string_view name) {
-        const size_t place = next < items.size() && items[next].name == name ? next : PlaceOf(name);
-        if (place == NameIndex::kNone) return nullptr;
+        const bool follows = next < entries.size() && names.Is(entries[next].name, name);
+        const size_t place = follows ? next : names.PlaceOf(name);
+        if (place == BagNames::kNone) return nullptr;
         next = place + 1;
-        return &items[place].value;
+        return &entries[place].value;
     }
 
 private:
-    size_t PlaceOf(std::string_view name) const {
-        return places.Find(name, [this](size_t at) { return items[at].name; });
-    }
+    struct Entry {
+        size_t name;
+        BagItem value;
+    };
 
-    void Enter(size_t at) {
-        std::string_view& name = items[at].name;
-        if (!IsAscii(name)) name = foldedNames.emplace_back(String(name).Lower().Utf8());
-        if (PlaceOf(name) != NameIndex::kNone)
-            RefuseBag("The name \"" + String(name) + "\" stands twice");
-        places.Add(name, at);
-    }
+    BagNames names;
+    std::vector<Entry> entries;
+    size_t next = 0;  ///< the entry behind the one that was read last
 };
 
 BagReader::BagReader() : store_(std::make_unique<Store>()) {}
@@ -81,6 +62,13 @@ Variant BagReader::ReadProperty(std::string_view name) try {
     return item ? ValueOf<Variant>(*item) : Variant();
 } catch (const std::bad_alloc&) {
     RaiseOutOfMemory("BagReader.ReadProperty");
+}
+
+bool BagReader::ReadInteger(std::string_view name, int32_t* value) {
+    const BagItem* item = store_->Find(name);
+    if (item && !item->IsInteger()) return false;
+    if (item) *value = item->Integer();
+    return true;
 }
 
 bool BagReader::Has(std::string_view name) { return store_->Find(name) != nullptr; }

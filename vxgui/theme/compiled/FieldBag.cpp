@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "vxgui/base/Rounding.h"
 #include "vxgui/base/VariantValue.h"
 #include "vxgui/theme/compiled/Container.h"
 
@@ -13,8 +14,7 @@ constexpr char kSource[] = "FieldReader";
 }  // namespace
 
 void FieldReader::operator()(std::string_view name, int32_t& field) const {
-    const Variant value = bag_->ReadProperty(name);
-    if (!value.IsEmpty()) field = IntegerFrom(value, kSource);
+    if (!bag_->ReadInteger(name, &field)) field = IntegerFrom(bag_->ReadProperty(name), kSource);
 }
 
 void FieldReader::operator()(std::string_view name, uint32_t& field) const {
@@ -24,8 +24,12 @@ void FieldReader::operator()(std::string_view name, uint32_t& field) const {
 }
 
 void FieldReader::operator()(std::string_view name, uint8_t& field) const {
-    const Variant value = bag_->ReadProperty(name);
-    if (!value.IsEmpty()) field = ByteFrom(value, kSource);
+    int32_t whole = field;
+    if (!bag_->ReadInteger(name, &whole)) {
+        field = ByteFrom(bag_->ReadProperty(name), kSource);
+    } else {
+        field = RoundHalfEvenChecked<uint8_t>(whole, kSource);
+    }
 }
 
 void FieldReader::operator()(std::string_view name, String& field) const {
