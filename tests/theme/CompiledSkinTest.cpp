@@ -163,6 +163,37 @@ TEST(CompiledSkin, ItemsShareTheFontsAndStylesOfThePools) {
     EXPECT_EQ(copy->Colours().All().size(), 2u);
 }
 
+TEST(CompiledSkin, ItemsOfTheSameFontsAndStylesChangeOneByOne) {
+    const Ref<ThemeSet> set = SampleSet();
+    const Ref<LFont> pooled = set->Fonts()->Item(1);
+    for (const char* name : {"Theme_02", "Theme_03", "Theme_04"}) {
+        const Ref<ThemeItem> item = New<ThemeItem>();
+        item->StateFont(E_ItemStateNormal, pooled);
+        item->StateTextStyle(E_ItemStateFocusMouseOver, set->TextStyles()->Item(1));
+        set->Item(name, item);
+    }
+    const Ref<ThemeSet> read = CompiledSkinFrom(BytesOfCompiledSkin({set, ""})).set;
+    const auto item = [&](int32_t n) { return read->Item(n); };
+    const Ref<LFont> font = item(1)->StateFont(E_ItemStateNormal);
+    const Ref<TextStyle> style = item(1)->StateTextStyle(E_ItemStateFocusMouseOver);
+    ASSERT_TRUE(font && style);
+    item(2)->StateFont(E_ItemStateNormal, nullptr);
+    item(2)->StateTextStyle(E_ItemStateFocusMouseOver, nullptr);
+    EXPECT_NE(item(3)->Fonts(), item(1)->Fonts());
+    EXPECT_NE(item(3)->TextStyles(), item(1)->TextStyles());
+    item(3)->Fonts()->Clear();
+    item(3)->LetTextStyles(nullptr);
+    for (const int32_t changed : {2, 3}) {
+        EXPECT_FALSE(item(changed)->StateFont(E_ItemStateNormal));
+        EXPECT_FALSE(item(changed)->StateTextStyle(E_ItemStateFocusMouseOver));
+    }
+    for (const int32_t same : {1, 4}) {
+        EXPECT_EQ(item(same)->StateFont(E_ItemStateNormal), font);
+        EXPECT_EQ(item(same)->StateTextStyle(E_ItemStateFocusMouseOver), style);
+        EXPECT_EQ(item(same)->Fonts()->Count(), 1);
+    }
+}
+
 TEST(CompiledSkin, KeepsFontsThatStandInNoPoolAndTheirDrawingStyles) {
     const Ref<ThemeSet> set = New<ThemeSet>();
     const Ref<ThemeItem> item = New<ThemeItem>();

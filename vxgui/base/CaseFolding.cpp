@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "vxgui/base/String.h"
+
 namespace vxgui {
 namespace {
 
@@ -41,6 +43,12 @@ bool Equal(View a, View b) {
 // Simple case folding of the letters that define files use: ASCII, Latin-1, Latin Extended-A,
 // Greek, Cyrillic (Unicode CaseFolding.txt, status C, the regular runs).
 char16_t FoldUnit(char16_t unit) { return Fold(unit); }
+
+String String::Lower() const {
+    std::u16string folded = units_;
+    for (char16_t& unit : folded) unit = Fold(unit);
+    return folded;
+}
 
 bool EqualFolded(std::u16string_view a, std::u16string_view b) { return Equal(a, b); }
 bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }

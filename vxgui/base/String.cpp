@@ -1,6 +1,5 @@
 #include "vxgui/base/String.h"
 
-#include "vxgui/base/CaseFolding.h"
 #include "vxgui/base/Utf.h"
 
 namespace vxgui {
@@ -22,12 +21,6 @@ String String::Trim() const {
     const size_t first = units_.find_first_not_of(u' ');
     if (first == npos) return {};
     return Mid(first, units_.find_last_not_of(u' ') - first + 1);
-}
-
-String String::Lower() const {
-    std::u16string folded = units_;
-    for (char16_t& unit : folded) unit = FoldUnit(unit);
-    return folded;
 }
 
 std::vector<String> String::Split(char16_t separator) const {

@@ -81,16 +81,14 @@ void AppendUtf8(std::string& text, char32_t code) {
 }
 
 std::u16string Utf16FromUtf8(std::string_view utf8) {
-    std::u16string text;
-    text.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const size_t ascii = AsciiLength(utf8);
-        text.append(utf8.begin(), utf8.begin() + ascii);
-        utf8.remove_prefix(ascii);
-        if (utf8.empty()) break;
+    size_t ascii = AsciiLength(utf8);
+    std::u16string text(utf8.begin(), utf8.begin() + ascii);
+    for (utf8.remove_prefix(ascii); !utf8.empty(); utf8.remove_prefix(ascii)) {
         const Decoded decoded = DecodeUtf8(utf8);
         AppendUtf16(text, decoded.code);
         utf8.remove_prefix(decoded.length);
+        ascii = AsciiLength(utf8);
+        text.append(utf8.begin(), utf8.begin() + ascii);
     }
     return text;
 }

@@ -8,6 +8,7 @@
 #include "vxgui/theme/FrameTable.h"
 #include "vxgui/theme/Margin.h"
 #include "vxgui/theme/NineSlice.h"
+#include "vxgui/theme/StateList.h"
 #include "vxgui/theme/StripScales.h"
 #include "vxgui/theme/ThemeEnums.h"
 #include "vxgui/theme/ThemeOwner.h"
@@ -271,6 +272,8 @@ public:
     // For the library's own classes.
     VXGUI_LOCAL Ref<ThemeOwner> Owner() const { return owner_; }
     VXGUI_LOCAL void Owner(const Ref<ThemeOwner>& value) { owner_ = value; }
+    /// Fonts and styles that other items have too; none of either changes nothing.
+    VXGUI_LOCAL void ShareStates(const Ref<LFonts>& fonts, const Ref<vxgui::TextStyles>& styles);
     VXGUI_LOCAL int32_t CurrentFrame() const { return currentFrame_; }
     VXGUI_LOCAL int32_t CurrentGlyphFrame() const { return currentGlyphFrame_; }
     /// The colour and font numbers that an importer sets.
@@ -355,8 +358,8 @@ private:
     int32_t state_ = 0;
     FrameTable frames_;
     FrameTable glyphFrames_;
-    Ref<LFonts> fonts_;
-    Ref<vxgui::TextStyles> textStyles_;
+    StateList<LFonts> fonts_;
+    StateList<vxgui::TextStyles> textStyles_;
     Ref<ThemeOwner> owner_;
     Ref<cAlphaDIBSection> image_;
     Ref<cAlphaDIBSection> glyph_;

@@ -133,9 +133,9 @@ void ThemeItem::FromThemeDefine(const Ref<core7::DefineFile>& DefineFile, const 
     if (const String list = read.Text("GlyphFrameOrder"); !list.empty())
         GlyphStateFrames(PartsOf(list));
     fonts_ = New<LFonts>();
-    Share(read.Text("Fonts"), "Font_", Set->Fonts(), fonts_);
+    Share(read.Text("Fonts"), "Font_", Set->Fonts(), fonts_.Own());
     textStyles_ = New<vxgui::TextStyles>();
-    Share(read.Text("TextStyles"), "TextStyle_", Set->TextStyles(), textStyles_);
+    Share(read.Text("TextStyles"), "TextStyle_", Set->TextStyles(), textStyles_.Own());
     if (image_)
         LoadStrips(read, "Image", "Image", BasePath, [&](auto... at) { AddImageStrip(at...); });
     if (glyph_)

@@ -1,4 +1,5 @@
 #include "vxgui/theme/ScaledLength.h"
+#include "vxgui/theme/StateText.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
@@ -31,39 +32,39 @@ void Store(const Ref<Collection>& items, const String& key, const Ref<Item>& val
     }
 }
 
-template <class Collection>
-const Ref<Collection>& OnDemand(Ref<Collection>& items) {
-    if (!items) items = New<Collection>();
-    return items;
-}
-
 template <class Collection, class Item>
-void RemoveIfEqual(const Ref<Collection>& items, int32_t state, const Ref<Item>& normal) {
-    const String name = ThemeItem::StateName(state);
-    const Ref<Item> own = items->Item(name);
-    if (own && own->Equal(normal)) items->Remove(name);
+void RemoveIfEqual(StateList<Collection>& items, int32_t state, const Ref<Item>& normal) {
+    const StateText text(state);
+    const String& name = text.name();
+    const Ref<Item> own = items.Get()->Item(name);
+    if (own && own->Equal(normal)) items.Own()->Remove(name);
 }
 
 }  // namespace
 
-Ref<LFonts> ThemeItem::Fonts() { return OnDemand(fonts_); }
-Ref<vxgui::TextStyles> ThemeItem::TextStyles() { return OnDemand(textStyles_); }
+Ref<LFonts> ThemeItem::Fonts() { return fonts_.Own(); }
+Ref<vxgui::TextStyles> ThemeItem::TextStyles() { return textStyles_.Own(); }
 
 // The value that these two are given isn't read, on purpose: they leave an empty collection.
-void ThemeItem::LetFonts(const Ref<LFonts>&) { OnDemand(fonts_)->Clear(); }
-void ThemeItem::LetTextStyles(const Ref<vxgui::TextStyles>&) { OnDemand(textStyles_)->Clear(); }
+void ThemeItem::LetFonts(const Ref<LFonts>&) { fonts_.Own()->Clear(); }
+void ThemeItem::LetTextStyles(const Ref<vxgui::TextStyles>&) { textStyles_.Own()->Clear(); }
+
+void ThemeItem::ShareStates(const Ref<LFonts>& fonts, const Ref<vxgui::TextStyles>& styles) {
+    if (fonts) fonts_.Share(fonts);
+    if (styles) textStyles_.Share(styles);
+}
 
 Ref<LFont> ThemeItem::StateFont(int32_t State) const {
-    return owner_ ? owner_->Font(FontNumber(State)) : Find(fonts_, StateName(State));
+    return owner_ ? owner_->Font(FontNumber(State)) : Find(fonts_.Get(), StateText(State).name());
 }
 
 void ThemeItem::StateFont(int32_t State, const Ref<LFont>& value) {
-    Store(Fonts(), StateName(State), value);
+    Store(fonts_.Own(), StateText(State).name(), value);
 }
 
 Ref<LFont> ThemeItem::GetStateFont(int32_t State) const {
     Ref<LFont> font = StateFont(State);
-    if (!font) font = owner_ ? owner_->Font(numbers_.NormalFont) : Find(fonts_, kNormalName);
+    if (!font) font = owner_ ? owner_->Font(numbers_.NormalFont) : Find(fonts_.Get(), kNormalName);
     if (font) return font;
     font = New<LFont>();
     font->DefaultGuiFont(DEFAULT_QUALITY);
@@ -72,16 +73,16 @@ Ref<LFont> ThemeItem::GetStateFont(int32_t State) const {
 }
 
 Ref<TextStyle> ThemeItem::StateTextStyle(int32_t State) const {
-    return Find(textStyles_, StateName(State));
+    return Find(textStyles_.Get(), StateText(State).name());
 }
 
 void ThemeItem::StateTextStyle(int32_t State, const Ref<TextStyle>& value) {
-    Store(TextStyles(), StateName(State), value);
+    Store(textStyles_.Own(), StateText(State).name(), value);
 }
 
 Ref<TextStyle> ThemeItem::GetStateTextStyle(int32_t State) const {
     if (Ref<TextStyle> own = StateTextStyle(State)) return own;
-    const Ref<TextStyle> normal = Find(textStyles_, kNormalName);
+    const Ref<TextStyle> normal = Find(textStyles_.Get(), kNormalName);
     if (!normal) return PlainStyle(State);
     if (State != E_ItemStateDisabled) return normal;
     Ref<TextStyle> grey = normal->Clone();

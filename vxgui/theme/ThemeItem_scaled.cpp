@@ -49,8 +49,8 @@ Ref<ThemeItem> ThemeItem::ScaledBy(Scaling& scaling) const {
     Ref<ThemeItem> scaled = New<ThemeItem>();
     scaled->TakeLooks(*this);
     scaled->TakeSizes(*this, scaling);
-    scaled->fonts_ = scaling.Of(fonts_);
-    scaled->textStyles_ = scaling.Of(textStyles_);
+    scaled->fonts_ = scaling.Of(fonts_.Get());
+    scaled->textStyles_ = scaling.Of(textStyles_.Get());
     scaled->owner_ = scaling.Of(owner_);
     if (scaling.Factor() == 1) return scaled;
     if (image_) scaled->ScaleImage(*this, scaling.Factor());

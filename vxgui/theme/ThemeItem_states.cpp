@@ -1,13 +1,15 @@
+#include "vxgui/theme/StateText.h"
 #include "vxgui/theme/ThemeItem.h"
 
 namespace vxgui {
 
-String ThemeItem::StateName(int32_t State) {
+const String* StateText::Known(int32_t state) {
     static const String names[] = {"Normal", "MouseOver",    "Pressed", "Disabled",      "Default",
                                    "Focus",  "FocusPressed", "Group",   "FocusMouseOver"};
-    if (State >= 0 && State < E_ItemStateMax) return names[State];
-    return "State_#" + String::FromInt(State);
+    return state >= 0 && state < E_ItemStateMax ? &names[state] : nullptr;
 }
+
+String ThemeItem::StateName(int32_t State) { return StateText(State).name(); }
 
 void ThemeItem::State(int32_t value) {
     state_ = value;

@@ -101,10 +101,10 @@ void ThemeItem::WriteStates(ole::PropertyBag& bag, const Ref<LFont>& knownFont,
         const bool isNormal = state == E_ItemStateNormal;
         const bool asksForStyle = isNormal || state == E_ItemStateDisabled;
         if (fonts_)
-            WriteUnlessKnown(bag, "Font" + name, fonts_->Item(name),
+            WriteUnlessKnown(bag, "Font" + name, fonts_.Get()->Item(name),
                              isNormal ? knownFont : nullptr);
         if (textStyles_)
-            WriteUnlessKnown(bag, "TextStyle" + name, textStyles_->Item(name),
+            WriteUnlessKnown(bag, "TextStyle" + name, textStyles_.Get()->Item(name),
                              asksForStyle ? knownStyle : nullptr);
     }
 }

@@ -41,6 +41,13 @@ void ForEachStyleField(Style& style, Visit visit) {
     visit("ShadowOffsetY", style.ShadowOffsetY);
 }
 
+/// The names of the states' fonts and styles.
+constexpr const char* kStateFonts[E_ItemStateMax] = {"Font0", "Font1", "Font2", "Font3", "Font4",
+                                                     "Font5", "Font6", "Font7", "Font8"};
+constexpr const char* kStateStyles[E_ItemStateMax] = {"TextStyle0", "TextStyle1", "TextStyle2",
+                                                      "TextStyle3", "TextStyle4", "TextStyle5",
+                                                      "TextStyle6", "TextStyle7", "TextStyle8"};
+
 /// Reaches past the item's setters, which would change what they store.
 class VXGUI_LOCAL ItemFields {
 public:

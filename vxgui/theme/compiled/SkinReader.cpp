@@ -1,6 +1,7 @@
 #include "vxgui/theme/compiled/SkinReader.h"
 
 #include "vxgui/base/LittleEndian.h"
+#include "vxgui/theme/StateText.h"
 #include "vxgui/theme/compiled/FieldBag.h"
 #include "vxgui/theme/compiled/Fields.h"
 #include "vxgui/theme/compiled/PictureBlock.h"
@@ -10,8 +11,9 @@ namespace {
 
 // What a number from 1 stands for; none for 0.
 template <class T>
-Ref<T> Numbered(const std::vector<Ref<T>>& objects, int32_t number) {
-    if (number == 0) return nullptr;
+const Ref<T>& Numbered(const std::vector<Ref<T>>& objects, int32_t number) {
+    static const Ref<T> none;
+    if (number == 0) return none;
     if (number < 0 || static_cast<size_t>(number) > objects.size())
         RaiseDamaged("damaged: it refers to what it doesn't hold");
     return objects[static_cast<size_t>(number) - 1];
@@ -33,6 +35,20 @@ template <class Pool, class T>
 void AddToPool(const Ref<Pool>& pool, int32_t inPool, const std::vector<Ref<T>>& objects,
                const String& key) {
     if (pool && objects.size() <= static_cast<size_t>(inPool)) pool->AddItem(objects.back(), key);
+}
+
+// What items with the same numbers have in common; none where all are 0.
+template <class Collection, class T>
+const Ref<Collection>& ListOf(std::map<StateNumbers, Ref<Collection>>& lists,
+                              const StateNumbers& numbers, const std::vector<Ref<T>>& objects) {
+    const auto [place, isNew] = lists.try_emplace(numbers);
+    Ref<Collection>& list = place->second;
+    for (size_t state = 0; isNew && state < numbers.size(); ++state) {
+        const Ref<T>& object = Numbered(objects, numbers[state]);
+        if (object && !list) list = New<Collection>();
+        if (object) list->AddItem(object, StateText(static_cast<int32_t>(state)).name());
+    }
+    return list;
 }
 
 template <class Read>
@@ -123,7 +139,7 @@ void SkinReader::ReadStrips(const FieldReader& read, const std::string& name, Ad
         const std::string number = std::to_string(n);
         const int32_t thousandths = NumberIn(read, name + "Scale" + number);
         if (thousandths == 0) return;
-        const auto strip = Numbered(pictures_, NumberIn(read, name + "Strip" + number));
+        const auto& strip = Numbered(pictures_, NumberIn(read, name + "Strip" + number));
         if (strip) add(thousandths / 1000.0, strip);
     }
 }
@@ -136,13 +152,12 @@ void SkinReader::ReadItem(std::span<const uint8_t> record) {
     ReadStrips(read, "Image", [&](auto... strip) { item->AddImageStrip(strip...); });
     ReadStrips(read, "Glyph", [&](auto... strip) { item->AddGlyphStrip(strip...); });
     ItemFields::ForEach(*item, read);
-    for (int32_t state = 0; state < E_ItemStateMax; ++state) {
-        const std::string number = std::to_string(state);
-        if (const auto font = Numbered(fonts_, NumberIn(read, "Font" + number)))
-            item->StateFont(state, font);
-        if (const auto style = Numbered(styles_, NumberIn(read, "TextStyle" + number)))
-            item->StateTextStyle(state, style);
+    StateNumbers fonts{}, styles{};
+    for (size_t state = 0; state < fonts.size(); ++state) {
+        read(kStateFonts[state], fonts[state]);
+        read(kStateStyles[state], styles[state]);
     }
+    item->ShareStates(ListOf(fontLists_, fonts, fonts_), ListOf(styleLists_, styles, styles_));
     skin_.set->Item(KeyIn(read), item);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <map>
 #include <set>
 
 #include "vxgui/theme/CompiledSkin.h"
@@ -7,6 +9,9 @@
 #include "vxgui/theme/compiled/FieldBag.h"
 
 namespace vxgui::compiled {
+
+/// The number of each state's font or style; 0 for none.
+using StateNumbers = std::array<int32_t, E_ItemStateMax>;
 
 /// Makes a theme set of the sections of a compiled skin. What a section refers to stands in one
 /// before it.
@@ -36,6 +41,8 @@ private:
     std::vector<Ref<cAlphaDIBSection>> pictures_;
     std::vector<Ref<LFont>> fonts_;
     std::vector<Ref<TextStyle>> styles_;
+    std::map<StateNumbers, Ref<LFonts>> fontLists_;
+    std::map<StateNumbers, Ref<TextStyles>> styleLists_;
 };
 
 }  // namespace vxgui::compiled

@@ -28,8 +28,6 @@ ByteArray BytesOf(const Palette& palette) {
 
 int32_t SizeOf(const auto& numbering) { return static_cast<int32_t>(numbering.All().size()); }
 
-String StateKey(const char* prefix, int32_t state) { return prefix + String::FromInt(state); }
-
 }  // namespace
 
 int32_t SkinWriter::PictureNumber(const Ref<cAlphaDIBSection>& picture) {
@@ -79,8 +77,8 @@ ByteArray SkinWriter::ItemBytes(const ThemeItem& item, const String& key) {
     for (int32_t state = 0; state < E_ItemStateMax; ++state) {
         const Ref<LFont> font = item.StateFont(state);
         const Ref<TextStyle> style = item.StateTextStyle(state);
-        bag->WriteProperty(StateKey("Font", state), fonts_.NumberOf(font), 0);
-        bag->WriteProperty(StateKey("TextStyle", state), styles_.NumberOf(style), 0);
+        bag->WriteProperty(kStateFonts[state], fonts_.NumberOf(font), 0);
+        bag->WriteProperty(kStateStyles[state], styles_.NumberOf(style), 0);
     }
     return bag->Contents();
 }
