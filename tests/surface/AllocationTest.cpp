@@ -2,6 +2,7 @@
 
 #include "tests/support/CountedAllocations.h"
 #include "tests/surface/SurfaceSupport.h"
+#include "vxgui/pixels/Shadow.h"
 
 namespace vxgui::test {
 namespace {
@@ -27,6 +28,24 @@ TEST(SurfacePaint, ARepaintTakesNoNewMemory) {
         PaintAll(surface, target.dc());
         EXPECT_EQ(gAllocations - before, 0) << (system ? "platform" : "compositor");
     }
+}
+
+void FilterAll(const Ref<cAlphaDIBSection>& surface, const Ref<cAlphaDIBSection>& target) {
+    surface->GaussianBlur(2, 3);
+    surface->GaussianBlur(12, 9);
+    surface->blur(5, 40, 0, 0);
+    surface->ResampleBilinear(target);
+    BoxShadow(surface->Pixels(), surface->Width(), surface->Height(), 4, 4, {1, 2, 3, 200});
+}
+
+TEST(SurfaceFilters, AFilterThatRunsAgainTakesNoNewMemory) {
+    std::mt19937 random(1);
+    const auto surface = MakeRandomSurface(90, 70, random),
+               target = MakeRandomSurface(31, 99, random);
+    for (int warm = 0; warm < 2; ++warm) FilterAll(surface, target);
+    const int before = gAllocations;
+    FilterAll(surface, target);
+    EXPECT_EQ(gAllocations - before, 0);
 }
 
 }  // namespace

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <vector>
 
 #include "vxgui/pixels/BlurPart.h"
 #include "vxgui/pixels/BoxFilter.h"
 #include "vxgui/pixels/Lanes.h"
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Scratch.h"
 #include "vxgui/pixels/ShortBlur.h"
 #include "vxgui/pixels/Steps.h"
 
@@ -48,7 +48,7 @@ private:
 
     /// Columns as wide as a strip, with 16 bits a channel. A column's rows lie one below the other;
     /// their number is odd, so that those beside each other don't share a place in the cache.
-    using Columns = std::vector<WordRow>;
+    using Columns = ScratchVector<WordRow>;
 
     static uint8_t* Bytes(ARGB* pixel) { return reinterpret_cast<uint8_t*>(pixel) + kFirst; }
     size_t ColumnCount() const { return (source_.width + kPixels - 1) / kPixels; }
@@ -62,14 +62,14 @@ private:
     const BlurPart source_;
     const BoxKernel horizontal_, vertical_;
     const size_t pitch_;
-    std::vector<ByteRow> results_;
+    ScratchVector<ByteRow> results_;
 };
 
 template <size_t Channels>
 void PartBlur<Channels>::Run() {
     Columns columns(ColumnCount() * pitch_);
-    std::vector<ByteRow> samples(source_.width);
-    std::vector<WordRow> means(ColumnCount() * kPixels);
+    ScratchVector<ByteRow> samples(source_.width);
+    ScratchVector<WordRow> means(ColumnCount() * kPixels);
     for (size_t top = 0; top < source_.height; top += kPixels) {
         const size_t lines = std::min(kPixels, source_.height - top);
         Pack(top, lines, samples.data());

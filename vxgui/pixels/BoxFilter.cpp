@@ -1,9 +1,9 @@
 #include "vxgui/pixels/BoxFilter.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Scratch.h"
 #include "vxgui/pixels/SlidingBoxes.h"
 
 namespace vxgui {
@@ -111,7 +111,7 @@ void FilterBytes(std::span<const ByteRow> samples, std::span<WordRow> results,
     if (sliding::Fits(kernel, samples.size())) {
         return sliding::FilterBytes(samples, results, kernel);
     }
-    std::vector<WordRow> words(samples.size());
+    ScratchVector<WordRow> words(samples.size());
     for (size_t i = 0; i < words.size(); ++i) {
         std::ranges::transform(samples[i], words[i].begin(),
                                [](uint8_t byte) { return static_cast<uint16_t>(byte * 256); });
@@ -124,7 +124,7 @@ void FilterWords(std::span<const WordRow> samples, std::span<ByteRow> results,
     if (sliding::Fits(kernel, samples.size())) {
         return sliding::FilterWords(samples, results, kernel);
     }
-    std::vector<WordRow> words(samples.size());
+    ScratchVector<WordRow> words(samples.size());
     FilterAny(samples, words, kernel);
     for (size_t i = 0; i < words.size(); ++i) {
         std::ranges::transform(words[i], results[i].begin(), [](uint16_t word) {

@@ -4,9 +4,9 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
-#include <vector>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Scratch.h"
 
 namespace vxgui {
 
@@ -83,6 +83,10 @@ class Columns {
 public:
     Columns(int32_t width, int32_t targetWidth) {
         const float step = Step(width, targetWidth);
+        const auto count = static_cast<size_t>(targetWidth);
+        offsets_.reserve(count);
+        first_.reserve(count);
+        second_.reserve(count);
         for (int32_t column = 0; column < targetWidth; ++column) {
             const Between place(column, step);
             offsets_.push_back(static_cast<uint32_t>(place.index * kChannels));
@@ -118,7 +122,7 @@ public:
 private:
     static constexpr size_t kLongest = 16;  ///< pixels in the longest vector
 
-    void Gather(const ARGB* row, std::vector<uint64_t>& places) const {
+    void Gather(const ARGB* row, ScratchVector<uint64_t>& places) const {
         const auto* const bytes = reinterpret_cast<const uint8_t*>(row);
         for (size_t i = 0; i < offsets_.size(); ++i) {
             std::memcpy(&places[i], bytes + offsets_[i], sizeof places[i]);
@@ -138,9 +142,9 @@ private:
                    reinterpret_cast<uint32_t*>(target + begin), count);
     }
 
-    std::vector<uint32_t> offsets_;
-    std::vector<float> first_, second_;  ///< what both sides weigh
-    std::vector<uint64_t> places_, upper_, lower_;
+    ScratchVector<uint32_t> offsets_;
+    ScratchVector<float> first_, second_;  ///< what both sides weigh
+    ScratchVector<uint64_t> places_, upper_, lower_;
 };
 
 }  // namespace
@@ -160,7 +164,7 @@ void ResampleBilinear(std::span<const ARGB> source, int32_t sourceWidth, std::sp
     const auto row = [&](size_t y) { return source.data() + y * static_cast<size_t>(sourceWidth); };
     // What lies behind the last pixel is only read with a weight of 0, and the row below the last
     // one as well.
-    std::vector<ARGB> mixed(static_cast<size_t>(sourceWidth) + 1);
+    ScratchVector<ARGB> mixed(static_cast<size_t>(sourceWidth) + 1);
     for (int32_t y = 0; y < targetHeight; ++y) {
         const Between place(y, step);
         const size_t below = std::min(place.index + 1, static_cast<size_t>(height) - 1);

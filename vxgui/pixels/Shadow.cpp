@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <vector>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Scratch.h"
 
 namespace vxgui {
 namespace {
@@ -23,8 +23,8 @@ ARGB ShadowPixel(ARGB color, int32_t share) {
             ShadowChannel(color.Red, alpha), static_cast<uint8_t>(alpha)};
 }
 
-std::vector<int32_t> CoverageOf(std::span<const ARGB> pixels) {
-    std::vector<int32_t> coverage(pixels.size());
+ScratchVector<int32_t> CoverageOf(std::span<const ARGB> pixels) {
+    ScratchVector<int32_t> coverage(pixels.size());
     std::transform(pixels.begin(), pixels.end(), coverage.begin(),
                    [](ARGB pixel) { return IsCovered(pixel) ? 255 : 0; });
     return coverage;
@@ -91,7 +91,7 @@ std::array<ARGB, 256> ShadowPixels(ARGB color) {
 void ColourColumns(std::span<ARGB> pixels, std::span<const int32_t> rows, int32_t width,
                    int32_t height, int32_t box, ARGB color) {
     const std::array<ARGB, 256> colors = ShadowPixels(color);
-    std::vector<int32_t> sums(width), shares(width);
+    ScratchVector<int32_t> sums(width), shares(width);
     for (int32_t y = 0; y < std::min(box, height); ++y) {
         for (int32_t x = 0; x < width; ++x) sums[x] += rows[size_t(y) * width + x];
     }
@@ -115,7 +115,7 @@ void BoxShadow(std::span<ARGB> pixels, int32_t width, int32_t height, int32_t bo
     if (!Holds(pixels, width, height)) return;
     boxX = std::max(boxX, 1);
     boxY = std::max(boxY, 1);
-    std::vector<int32_t> rows = CoverageOf(pixels.first(size_t(width) * height));
+    ScratchVector<int32_t> rows = CoverageOf(pixels.first(size_t(width) * height));
     for (int32_t y = 0; y < height; ++y)
         BlurRow(std::span(rows).subspan(size_t(y) * width, width), boxX);
     for (size_t i = 0; i < rows.size(); ++i) pixels[i] = ARGBFromValue(rows[i]);
@@ -125,9 +125,9 @@ void BoxShadow(std::span<ARGB> pixels, int32_t width, int32_t height, int32_t bo
 namespace {
 
 // sums[y * (width + 1) + x] counts the covered pixels above and left of (x, y).
-std::vector<int32_t> CountsOf(std::span<const ARGB> pixels, int32_t width, int32_t height) {
+ScratchVector<int32_t> CountsOf(std::span<const ARGB> pixels, int32_t width, int32_t height) {
     const size_t stride = size_t(width) + 1;
-    std::vector<int32_t> counts(stride * (size_t(height) + 1));
+    ScratchVector<int32_t> counts(stride * (size_t(height) + 1));
     for (int32_t y = 0; y < height; ++y) {
         int32_t row = 0;
         for (int32_t x = 0; x < width; ++x) {
@@ -152,7 +152,7 @@ void ForwardShadow(std::span<ARGB> pixels, int32_t width, int32_t height, int32_
     if (!Holds(pixels, width, height)) return;
     boxX = std::max(boxX, 1);
     boxY = std::max(boxY, 1);
-    const std::vector<int32_t> counts = CountsOf(pixels, width, height);
+    const ScratchVector<int32_t> counts = CountsOf(pixels, width, height);
     const size_t stride = size_t(width) + 1;
     const int64_t box = int64_t{boxX} * boxY;
     for (int32_t y = 0; y < height; ++y) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <vector>
-
 #include "vxgui/pixels/BlurPart.h"
+#include "vxgui/pixels/Scratch.h"
 #include "vxgui/pixels/ShortKernel.h"
 
 namespace vxgui {
@@ -28,9 +27,9 @@ private:
     const size_t lanes_;  ///< of a row that is filtered, in whole blocks
     const size_t ringRows_;
     const size_t pitch_;  ///< not a power of two: such rows share few places in the cache
-    std::vector<uint16_t> samples_;  ///< a row's, with what the kernel reaches on both sides
-    std::vector<uint16_t> ring_;     ///< of rows in 256ths, and behind them a row of 0
-    std::vector<uint8_t> results_;
+    ScratchVector<uint16_t> samples_;  ///< a row's, with what the kernel reaches on both sides
+    ScratchVector<uint16_t> ring_;     ///< of rows in 256ths, and behind them a row of 0
+    ScratchVector<uint8_t> results_;
 };
 
 }  // namespace vxgui

@@ -3,9 +3,9 @@
 #include <bit>
 #include <cmath>
 #include <limits>
-#include <memory>
 
 #include "vxgui/pixels/Multiversion.h"
+#include "vxgui/pixels/Scratch.h"
 
 namespace vxgui::sliding {
 
@@ -161,14 +161,14 @@ public:
     explicit Histories(const BoxKernel& kernel)
         : firstSize_(std::bit_ceil(static_cast<size_t>(kernel.widths[1]) + 1)),
           secondSize_(std::bit_ceil(static_cast<size_t>(kernel.widths[2]) + 1)),
-          sums_(std::make_unique<Sums[]>(firstSize_ + secondSize_)) {}
+          sums_(firstSize_ + secondSize_) {}
 
-    History First() const { return {sums_.get(), firstSize_ - 1}; }
-    History Second() const { return {sums_.get() + firstSize_, secondSize_ - 1}; }
+    History First() { return {sums_.data(), firstSize_ - 1}; }
+    History Second() { return {sums_.data() + firstSize_, secondSize_ - 1}; }
 
 private:
     size_t firstSize_, secondSize_;
-    std::unique_ptr<Sums[]> sums_;
+    ScratchVector<Sums> sums_;
 };
 
 }  // namespace
@@ -182,13 +182,13 @@ bool Fits(const BoxKernel& kernel, size_t size) {
 
 void FilterBytes(std::span<const ByteRow> samples, std::span<WordRow> results,
                  const BoxKernel& kernel) {
-    const Histories histories(kernel);
+    Histories histories(kernel);
     SlideToWords({samples, results.data(), histories.First(), histories.Second()}, kernel);
 }
 
 void FilterWords(std::span<const WordRow> samples, std::span<ByteRow> results,
                  const BoxKernel& kernel) {
-    const Histories histories(kernel);
+    Histories histories(kernel);
     if (kernel.Norm() <= ByteMeans::kLargestNorm) {
         SlideToBytes({samples, results.data(), histories.First(), histories.Second()}, kernel);
     } else {
