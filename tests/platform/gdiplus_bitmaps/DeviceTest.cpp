@@ -50,6 +50,26 @@ TEST_F(DeviceBitmaps, ADibHasItsColours) {
     EXPECT_EQ(Pixels(bitmap), (std::vector<ARGB>{0xFF090807, 0xFF060504}));
 }
 
+TEST_F(DeviceBitmaps, ADibOfEachDepthHasItsFormat) {
+    struct {
+        gdi::BITMAPINFO info;
+        gdi::RGBQUAD more[255];
+    } dib{};
+    uint8_t bits[4] = {};
+    const auto format = [&](WORD depth, const gdi::RGBQUAD& first = {}) {
+        dib.info = gdi::DibInfo(1, 1, depth);
+        if (first.rgbGreen) dib.info.bmiHeader.biCompression = gdi::BI_BITFIELDS;
+        dib.info.bmiColors[0] = first;
+        return FormatOf(FromDib(&dib.info, bits));
+    };
+    EXPECT_EQ(format(1), PixelFormat1bppIndexed);
+    EXPECT_EQ(format(8), PixelFormat8bppIndexed);
+    EXPECT_EQ(format(16), PixelFormat16bppRGB555);
+    EXPECT_EQ(format(16, {0, 0xF8, 0, 0}), PixelFormat16bppRGB565);  // the red mask, 0xF800
+    EXPECT_EQ(format(16, {0, 0x7C, 0, 0}), PixelFormat16bppRGB555);
+    EXPECT_EQ(format(24), PixelFormat24bppRGB);
+}
+
 TEST_F(DeviceBitmaps, RefusesWhatIsNoDib) {
     uint8_t bits[64] = {};
     GpBitmap* bitmap = nullptr;

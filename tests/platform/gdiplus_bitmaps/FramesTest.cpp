@@ -8,9 +8,9 @@ namespace vxgui::gdiplus {
 namespace {
 
 // Three pictures on a canvas of 2 x 1, without a global palette. The first is red and stays; the
-// second is a green pixel at the right and goes back to nothing; the third is a blue one at the
-// left. Delays of 5, 6 and 7 hundredths.
-ByteArray SmallAnimation() {
+// second is a green pixel at the right and goes back to nothing, or as `disposal` says; the third is
+// a blue one at the left. Delays of 5, 6 and 7 hundredths.
+ByteArray SmallAnimation(uint8_t disposal = 2) {
     ByteArray gif = {'G', 'I', 'F', '8', '9', 'a', 2, 0, 1, 0, 0, 0, 0};
     const auto append = [&](std::initializer_list<uint8_t> bytes) { gif.insert(gif.end(), bytes); };
     append({0x21, 0xFF, 11, 'N', 'E', 'T', 'S', 'C', 'A', 'P', 'E', '2', '.', '0', 3, 1, 9, 0, 0});
@@ -19,7 +19,8 @@ ByteArray SmallAnimation() {
         uint8_t left, width, disposal, delay, r, g, b;
     };
     for (const Part& part :
-         {Part{0, 2, 1, 5, 255, 0, 0}, Part{1, 1, 2, 6, 0, 255, 0}, Part{0, 1, 1, 7, 0, 0, 255}}) {
+         {Part{0, 2, 1, 5, 255, 0, 0}, Part{1, 1, disposal, 6, 0, 255, 0},
+          Part{0, 1, 1, 7, 0, 0, 255}}) {
         append({0x21, 0xF9, 4, static_cast<uint8_t>(part.disposal << 2), part.delay, 0, 0, 0});
         append({0x2C, part.left, 0, 0, 0, part.width, 0, 1, 0, 0x80});
         append({part.r, part.g, part.b, 1, 1, 1});
@@ -63,6 +64,12 @@ TEST_F(Frames, OfAGifAddUp) {
     EXPECT_EQ(GdipImageSelectActiveFrame(AsImage(bitmap), &FrameDimensionPage, 0),
               InvalidParameter);
     EXPECT_EQ(GdipImageSelectActiveFrame(nullptr, &FrameDimensionTime, 0), InvalidParameter);
+}
+
+TEST_F(Frames, OfAGifMayGoBackToWhatTheyCovered) {
+    GpBitmap* bitmap = FromBytes(SmallAnimation(3));
+    ASSERT_EQ(GdipImageSelectActiveFrame(AsImage(bitmap), &FrameDimensionTime, 2), Ok);
+    EXPECT_EQ(Pixels(bitmap), (std::vector<ARGB>{kBlue, kRed}));
 }
 
 TEST_F(Frames, OfAGifHaveTheirDelays) {
