@@ -45,16 +45,17 @@ private:
 template <class Surface>
 Ref<ThemeItem> ItemOf(Dice dice) {
     const Ref<cAlphaDIBSection> image = New<Surface>();
-    const int32_t count = dice.From(1, 3);
-    image->Create(dice.From(1, 24) * count, dice.From(1, 24));
+    const int32_t count = dice.From(1, 3), vertical = dice.From(0, 1);
+    const int32_t along = dice.From(1, 24) * count, across = dice.From(1, 24);
+    vertical ? image->Create(across, along) : image->Create(along, across);
     for (ARGB& pixel : image->Pixels()) {
         const auto alpha = static_cast<uint8_t>(dice.From(0, 2) * 100);
         pixel = {static_cast<uint8_t>(dice.From(0, 255)), static_cast<uint8_t>(dice.From(0, 255)),
                  static_cast<uint8_t>(dice.From(0, 255)), alpha};
     }
     const Ref<ThemeItem> item = New<ThemeItem>();
-    item->SetImage(image, count, 0, dice.From(0, 3) ? PerPixel : Normal,
-                   static_cast<uint8_t>(dice.From(0, 2) ? 255 : dice.From(1, 252)));
+    item->SetImage(image, count, vertical, dice.From(0, 3) ? PerPixel : Normal,
+                   static_cast<uint8_t>(dice.From(0, 2) ? 255 : dice.From(0, 252)));
     item->SetImageMargin(dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9));
     item->SetTile(dice.From(0, 5), dice.From(0, 1), dice.From(0, 1), dice.From(0, 1),
                   dice.From(0, 1));
