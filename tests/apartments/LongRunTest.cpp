@@ -6,6 +6,7 @@
 #include "tests/apartments/MixedDrawing.h"
 #include "tests/apartments/SkinRound.h"
 #include "tests/support/MemoryUse.h"
+#include "tests/support/Sanitizers.h"
 
 namespace vxgui {
 namespace {
@@ -42,9 +43,7 @@ Tenth RunFor(Clock::duration time, int& number) {
 
 // The first tenth fills what is kept: glyphs, shaped texts, fonts, blocks of pixels.
 TEST(LongRun, LoadsDrawsAndDropsWithFlatMemory) {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    GTEST_SKIP() << "a sanitizer keeps the blocks that were given back";
-#endif
+    if (test::kSanitized) GTEST_SKIP() << "a sanitizer keeps the blocks that were given back";
     const Clock::duration time = Clock::duration(test::StressTime()) / 10;
     int number = 0;
     RunFor(time, number);

@@ -1,18 +1,20 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <fstream>
 #include <string>
 
 #include "generated/Places.h"
+#include "tests/support/MemoryUse.h"
 #include "tests/support/TemporaryFolder.h"
 #include "vxgui/base/Variant.h"
 #include "vxgui/platform/gdi.h"
 #include "vxgui/theme/ThemeSet.h"
 
 namespace vxgui::fuzz {
+
+using test::ExpectLittleMemory;
 
 inline const std::string kSkins = VXGUI_SOURCE_DIR "/skins/";
 
@@ -24,16 +26,6 @@ inline std::string FileText(const std::string& path) {
 
 inline ByteArray BytesOf(const std::string& text) { return {text.begin(), text.end()}; }
 inline std::string TextOf(const ByteArray& bytes) { return {bytes.begin(), bytes.end()}; }
-
-/// What no damaged file may make the process grow beyond. A sanitizer's own memory counts among
-/// the process's, so that it can't be told there.
-inline void ExpectLittleMemory() {
-#ifndef __SANITIZE_ADDRESS__
-    rusage usage{};
-    ASSERT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
-    EXPECT_LT(usage.ru_maxrss, 256L << 10);  // KiB
-#endif
-}
 
 /// Paints each item in each state, wherever its file has led it.
 inline void PaintAll(const ThemeSet& set) {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <zlib.h>
 
 #include "tests/support/GdiplusSession.h"
 #include "tests/support/Images.h"
+#include "tests/support/MemoryUse.h"
 #include "vxgui/frame/VxGuiGlobal.h"
 
 namespace vxgui {
@@ -57,22 +57,17 @@ void LieInJpeg(Bytes& bytes) {
 
 class HostilePicture : public testing::TestWithParam<Claim> {
 protected:
-    static long PeakKilobytes() {
-        rusage usage{};
-        getrusage(RUSAGE_SELF, &usage);
-        return usage.ru_maxrss;
-    }
     test::GdiplusSession session_;
 };
 
 TEST_P(HostilePicture, OfAbsurdSizeGivesNothingAndTakesNoMemory) {
     Bytes bytes = test::ReadTestFile(std::string("images/") + GetParam().file);
     GetParam().lie(bytes);
-    const long before = PeakKilobytes();
+    const size_t before = test::PeakMemory();
     const bool tga = std::string(GetParam().file).starts_with("tga");
     EXPECT_EQ(Global().LoadPictureFromByteArray(bytes, tga), nullptr);
     EXPECT_EQ(Global().PictureFromByteArray(bytes, 0x321), nullptr);
-    EXPECT_LT(PeakKilobytes() - before, 64 * 1024);
+    EXPECT_LT(test::PeakMemory() - before, size_t{64} << 20);
 }
 
 TEST_P(HostilePicture, CutOffAnywhereIsReadOrRefused) {

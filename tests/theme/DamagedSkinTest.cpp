@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <fstream>
 #include <functional>
@@ -7,6 +6,7 @@
 
 #include "generated/Places.h"
 #include "tests/support/ActedKernel.h"
+#include "tests/support/MemoryUse.h"
 #include "tests/support/TemporaryFolder.h"
 #include "vxgui/theme/SkinDef.h"
 #include "vxgui/theme/ThemeSet.h"
@@ -96,13 +96,7 @@ void LoadLastUisSection(const std::string& text) {
 class DamagedSkin : public testing::Test {
 protected:
     ~DamagedSkin() override { kernel::SetKernel(before_); }
-    void TearDown() override {
-#ifndef __SANITIZE_ADDRESS__
-        rusage usage{};
-        getrusage(RUSAGE_SELF, &usage);
-        EXPECT_LT(usage.ru_maxrss, 256 * 1024) << "kilobytes";
-#endif
-    }
+    void TearDown() override { test::ExpectLittleMemory(); }
 
 private:
     ActedKernel quiet_;  // its message boxes are written down, not shown
