@@ -21,9 +21,10 @@ constexpr size_t kBlock = 4 * kPixels;
 
 /// Views of pixel memory, which may begin at any address: of words, of pairs of a lower channel
 /// (blue, red) and an upper one (green, alpha), and of bytes.
-using Words = uint32_t __attribute__((may_alias, aligned(1)));
-using Halves = uint16_t __attribute__((may_alias, aligned(1)));
+using Words __attribute__((may_alias, aligned(1))) = uint32_t;
+using Halves __attribute__((may_alias, aligned(1))) = uint16_t;
 using Bytes = uint8_t;
+static_assert(alignof(Words) == 1 && alignof(Halves) == 1);  // clang minds the attribute's place
 
 constexpr uint16_t kUpper = 0xFF00;
 constexpr uint16_t Low(uint16_t half) { return half & 0xFF; }

@@ -3,7 +3,7 @@
 namespace vxgui::gdi {
 namespace {
 
-using Word = uint32_t __attribute__((may_alias, aligned(1)));
+using Word __attribute__((may_alias, aligned(1))) = uint32_t;
 
 }  // namespace
 
