@@ -70,7 +70,7 @@ TEST(PatternBrushes, AMonochromePictureTakesTheColoursOfTheContext) {
     canvas.State().backColor = kBlue;
     const RECT all{0, 0, 4, 4};
     FillRect(canvas.dc, &all, brush);
-    EXPECT_EQ(canvas.Picture(kBlue), (Picture{"X.X.", ".X.X", "X.X.", ".X.X"}));
+    EXPECT_EQ(canvas.Picture(kBlue), (Picture{"#.#.", ".#.#", "#.#.", ".#.#"}));
     EXPECT_EQ(canvas.Count(kRed), 8);
 }
 
@@ -83,8 +83,8 @@ TEST(PatternBrushes, APictureWithATableKeepsItsColours) {
     canvas.State().textColor = kBlue;
     const RECT all{0, 0, 4, 1};
     FillRect(canvas.dc, &all, brush);
-    EXPECT_EQ(canvas.Picture(kRed), (Picture{"X.X."}));
-    EXPECT_EQ(canvas.Picture(kGreen), (Picture{".X.X"}));
+    EXPECT_EQ(canvas.Picture(kRed), (Picture{"#.#."}));
+    EXPECT_EQ(canvas.Picture(kGreen), (Picture{".#.#"}));
 }
 
 TEST(PatternBrushes, OutliveTheirPicture) {
@@ -106,7 +106,7 @@ TEST(PatternBrushes, FillTargetsOfEveryDepth) {
     }
     Canvas canvas(300, 2, 1);
     FillRect(canvas.dc, &all, brush);
-    EXPECT_EQ(canvas.Picture(kWhite)[1].substr(0, 4), ".X.X");
+    EXPECT_EQ(canvas.Picture(kWhite)[1].substr(0, 4), ".#.#");
 }
 
 TEST(Brushes, DescribeThemselves) {

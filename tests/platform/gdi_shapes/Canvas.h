@@ -51,19 +51,19 @@ public:
     DcState& State() { return FindContext(dc)->state; }
     COLORREF At(int x, int y) const { return GetPixel(dc, x, y); }
 
-    /// One character a pixel: 'X' for `color`, '.' for all else; a row in each string.
+    /// One character a pixel: '#' for `color`, '.' for all else; a row in each string.
     std::vector<std::string> Picture(COLORREF color) const {
         std::vector<std::string> rows(static_cast<size_t>(height_));
         for (int y = 0; y < height_; ++y) {
             for (int x = 0; x < width_; ++x) {
-                rows[static_cast<size_t>(y)] += At(x, y) == color ? 'X' : '.';
+                rows[static_cast<size_t>(y)] += At(x, y) == color ? '#' : '.';
             }
         }
         return rows;
     }
     int Count(COLORREF color) const {
         int count = 0;
-        for (const std::string& row : Picture(color)) count += std::ranges::count(row, 'X');
+        for (const std::string& row : Picture(color)) count += std::ranges::count(row, '#');
         return count;
     }
 

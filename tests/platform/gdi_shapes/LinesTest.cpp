@@ -35,8 +35,8 @@ TEST_F(Lines, LeaveOutTheLastPoint) {
     Draw(20, 2, 20, 5);
     Draw(12, 8, 8, 8);
     Draw(5, 5, 5, 5);
-    EXPECT_EQ(canvas.Picture(kRed)[3], "..XXXXX.............X...");
-    EXPECT_EQ(canvas.Picture(kRed)[8], ".........XXXX...........");
+    EXPECT_EQ(canvas.Picture(kRed)[3], "..#####.............#...");
+    EXPECT_EQ(canvas.Picture(kRed)[8], ".........####...........");
     EXPECT_EQ(canvas.Count(kRed), 5 + 3 + 4);
 }
 
@@ -60,7 +60,7 @@ TEST_F(Lines, SetTheAlphaByteToZero) {
 
 TEST_F(Lines, AreDrawnBlackInAFreshContext) {
     Draw(0, 0, 3, 0);
-    EXPECT_EQ(canvas.Picture(kBlack)[0].substr(0, 4), "XXX.");
+    EXPECT_EQ(canvas.Picture(kBlack)[0].substr(0, 4), "###.");
 }
 
 TEST_F(Lines, KeepToTheClip) {
@@ -69,7 +69,7 @@ TEST_F(Lines, KeepToTheClip) {
     ExcludeClipRect(canvas.dc, 6, 0, 8, 12);
     Draw(0, 2, 24, 2);
     SelectClipRgn(canvas.dc, nullptr);
-    EXPECT_EQ(canvas.Picture(kRed)[2], "....XX..XX..............");
+    EXPECT_EQ(canvas.Picture(kRed)[2], "....##..##..............");
 }
 
 // For each step along the longer axis the nearest pixel; midway the upper or left one.
@@ -87,7 +87,7 @@ TEST_F(Lines, TakeTheNearestPixelAtEachStep) {
             const double x = x0 + static_cast<double>(step) * (x1 - x0) / steps;
             const double y = y0 + static_cast<double>(step) * (y1 - y0) / steps;
             const auto at = [](double v) { return static_cast<size_t>(std::ceil(v - 0.5 - 1e-9)); };
-            expected[at(y)][at(x)] = 'X';
+            expected[at(y)][at(x)] = '#';
         }
         ASSERT_EQ(canvas.Picture(kRed), expected) << x0 << ' ' << y0 << " to " << x1 << ' ' << y1;
     }
@@ -102,7 +102,7 @@ TEST_F(Lines, AreExactOverTheWholeCoordinateRange) {
     const RECT all{0, 0, 24, 12};
     FillRect(canvas.dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     Draw(kLow, 0, kHigh, 3);
-    EXPECT_EQ(canvas.Picture(kRed)[2], std::string(24, 'X'));
+    EXPECT_EQ(canvas.Picture(kRed)[2], std::string(24, '#'));
     EXPECT_EQ(canvas.Count(kRed), 24);
     Draw(kHigh, kLow, kLow, kHigh);
     Draw(0, kHigh, kHigh, kLow);
@@ -120,8 +120,8 @@ TEST_F(Lines, OfAWidePenAreCentredAndRound) {
     UsePen(wide);
     Draw(5, 5, 12, 5);
     const Picture picture = canvas.Picture(kRed);
-    for (const int row : {4, 5, 6}) EXPECT_EQ(picture[row].substr(5, 8), "XXXXXXXX") << row;
-    EXPECT_EQ(picture[5], "....XXXXXXXXXX..........");
+    for (const int row : {4, 5, 6}) EXPECT_EQ(picture[row].substr(5, 8), "########") << row;
+    EXPECT_EQ(picture[5], "....##########..........");
     EXPECT_EQ(picture[3], std::string(24, '.'));
     EXPECT_EQ(picture[7], std::string(24, '.'));
 }
@@ -148,11 +148,11 @@ TEST_F(Lines, BrokenPensLeaveGapsOrFillThem) {
     UsePen(dots);
     canvas.State().backColor = kBlue;
     Draw(0, 0, 14, 0);
-    EXPECT_EQ(canvas.Picture(kRed)[0], "XXX...XXX...XX..........");
-    EXPECT_EQ(canvas.Picture(kBlue)[0], "...XXX...XXX............");
+    EXPECT_EQ(canvas.Picture(kRed)[0], "###...###...##..........");
+    EXPECT_EQ(canvas.Picture(kBlue)[0], "...###...###............");
     canvas.State().backMode = TRANSPARENT;
     Draw(0, 1, 14, 1);
-    EXPECT_EQ(canvas.Picture(kRed)[1], "XXX...XXX...XX..........");
+    EXPECT_EQ(canvas.Picture(kRed)[1], "###...###...##..........");
     EXPECT_EQ(canvas.Word(3, 1), Canvas::kUntouched);
 }
 
@@ -162,7 +162,7 @@ TEST_F(Lines, WorkAtEveryDepth) {
         SelectObject(other.dc, GetStockObject(WHITE_PEN));
         MoveToEx(other.dc, 1, 1, nullptr);
         LineTo(other.dc, 6, 1);
-        EXPECT_EQ(other.Picture(kWhite), (Picture{"........", ".XXXXX..", "........"})) << depth;
+        EXPECT_EQ(other.Picture(kWhite), (Picture{"........", ".#####..", "........"})) << depth;
     }
 }
 
@@ -261,7 +261,7 @@ TEST_F(Arcs, NeitherUseNorMoveThePositionUnlessTheyAreArcTo) {
     EXPECT_EQ(PositionOf(canvas.dc), (POINT{22, 22}));
     MoveToEx(canvas.dc, 20, 5, nullptr);
     EXPECT_TRUE(ArcTo(canvas.dc, 0, 0, 11, 11, 10, 5, 5, 0));
-    EXPECT_EQ(canvas.Picture(kRed)[5].substr(10, 11), "XXXXXXXXXXX");
+    EXPECT_EQ(canvas.Picture(kRed)[5].substr(10, 11), "###########");
     EXPECT_EQ(PositionOf(canvas.dc), (POINT{5, 0}));
 }
 

@@ -92,8 +92,8 @@ TEST_F(Paths, AClosedFigureIsFollowedByANewOne) {
     LineTo(canvas.dc, 3, 7);
     LineTo(canvas.dc, 1, 7);
     EXPECT_EQ(Filled(Owned<HRGN>(End())),
-              (Picture{"..........", ".XXXX.....", ".XXXX.....", ".XXXX.....", ".XX.......",
-                       ".XX.......", ".XX.......", ".........."}));
+              (Picture{"..........", ".####.....", ".####.....", ".####.....", ".##.......",
+                       ".##.......", ".##.......", ".........."}));
 }
 
 TEST_F(Paths, AreFilledByTheModeOfTheContext) {
