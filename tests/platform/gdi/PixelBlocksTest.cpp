@@ -35,6 +35,18 @@ TEST(PixelBlocks, BlocksBeginAtLinesOfTheCache) {
     }
 }
 
+TEST(PixelBlocks, LargeBlocksBeginAtHugePagesAndAreAllThere) {
+    constexpr size_t kHugePage = size_t{2} << 20;
+    for (const size_t size : {kHugePage - 1, kHugePage, kHugePage + 1, kHugePage * 5 / 2}) {
+        const PixelBlock block = TakePixels(size);
+        const auto place = reinterpret_cast<uintptr_t>(block.bits);
+        EXPECT_EQ(place % (size < kHugePage ? 64 : kHugePage), 0u) << size;
+        EXPECT_EQ(std::count(block.bits, block.bits + size, 0), static_cast<ptrdiff_t>(size));
+        std::memset(block.bits, 0xFF, size);
+        GivePixelsBack(block);
+    }
+}
+
 TEST(PixelBlocks, NoneForNothingAndForTheAbsurd) {
     EXPECT_EQ(TakePixels(0).bits, nullptr);
     EXPECT_EQ(TakePixels(ApartmentLimits().bitmapBytes + 1).bits, nullptr);

@@ -1,5 +1,9 @@
 #include "vxgui/platform/gdi/PixelSource.h"
 
+#if __has_include(<sys/mman.h>)
+#include <sys/mman.h>
+#endif
+
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
@@ -14,9 +18,22 @@ std::atomic<PixelSource*> replaced{nullptr};
 constexpr size_t kLine = 64;
 static_assert(alignof(std::max_align_t) >= sizeof(void*));
 
-uint8_t* BlockIn(void* start) {
+// Large blocks begin at, and ask for, pages of 2 MiB: at those of 4 KiB the processor stops to read
+// ahead and looks up each address anew.
+constexpr size_t kHugePage = size_t{2} << 20;
+
+size_t AlignmentOf(size_t size) { return size < kHugePage ? kLine : kHugePage; }
+
+// What the last page would have beyond the block stays small ones.
+void AskForHugePages([[maybe_unused]] uint8_t* bits, [[maybe_unused]] size_t size) {
+#ifdef MADV_HUGEPAGE
+    if (size >= kHugePage) madvise(bits, size / kHugePage * kHugePage, MADV_HUGEPAGE);
+#endif
+}
+
+uint8_t* BlockIn(void* start, size_t alignment) {
     const auto place = reinterpret_cast<uintptr_t>(start);
-    uint8_t* const bits = static_cast<uint8_t*>(start) + (kLine - place % kLine);
+    uint8_t* const bits = static_cast<uint8_t*>(start) + (alignment - place % alignment);
     std::memcpy(bits - sizeof start, &start, sizeof start);
     return bits;
 }
@@ -32,9 +49,13 @@ void* StartOf(const uint8_t* bits) {
 PixelSource::~PixelSource() = default;
 
 uint8_t* PixelSource::Take(size_t size, bool cleared) {
-    if (size > SIZE_MAX - kLine) return nullptr;
-    void* const start = cleared ? std::calloc(size + kLine, 1) : std::malloc(size + kLine);
-    return start ? BlockIn(start) : nullptr;
+    const size_t alignment = AlignmentOf(size);
+    if (size > SIZE_MAX - alignment) return nullptr;
+    void* const start = cleared ? std::calloc(size + alignment, 1) : std::malloc(size + alignment);
+    if (!start) return nullptr;
+    uint8_t* const bits = BlockIn(start, alignment);
+    AskForHugePages(bits, size);
+    return bits;
 }
 
 void PixelSource::GiveBack(uint8_t* bits) {

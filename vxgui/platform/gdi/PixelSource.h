@@ -10,7 +10,8 @@ class PixelSource {
 public:
     virtual ~PixelSource();
 
-    /// Null when there is none to be had. The heap's begin at multiples of 64.
+    /// Null when there is none to be had. The heap's begin at multiples of 64, and from 2 MiB on at
+    /// multiples of that.
     virtual uint8_t* Take(size_t size, bool cleared);
     virtual void GiveBack(uint8_t* bits);
     /// Whether a block may serve again for what is smaller.
