@@ -165,6 +165,27 @@ TEST(StretchBlt, RepeatsAndDropsPixelsByTheNearestRule) {
     EXPECT_EQ(target.Words(), (Words{1, 3, 0, 0, 0, 0}));
 }
 
+TEST(StretchBlt, IsTheSameInOnePieceAndInBands) {
+    constexpr int kSide = 1501, kFrom = 17, kBand = 100;  // 9 MB at once, which goes past the caches
+    const Canvas source(kFrom, kFrom), whole(kSide + 2, kSide + 2), bands(kSide + 2, kSide + 2);
+    source.Number(0x81000000);
+    const auto stretch = [&](const Canvas& to) {
+        EXPECT_TRUE(StretchBlt(to.dc, 1, 1, kSide, kSide, source.dc, 0, 0, kFrom, kFrom, SRCCOPY));
+    };
+    stretch(whole);
+    for (int top = 0; top < kSide + 2; top += kBand) {
+        const int saved = SaveDC(bands.dc);
+        IntersectClipRect(bands.dc, 0, top, kSide + 2, top + kBand);
+        stretch(bands);
+        RestoreDC(bands.dc, saved);
+    }
+    EXPECT_EQ(whole.At(0, 5), 0u);
+    EXPECT_EQ(whole.At(1, 1), 0x81000000);
+    EXPECT_EQ(whole.At(kSide, kSide), 0x81000000 + kFrom * kFrom - 1);
+    EXPECT_EQ(whole.At(kSide + 1, kSide), 0u);
+    EXPECT_TRUE(whole.Words() == bands.Words());
+}
+
 TEST(StretchBlt, NeverMixesPixelsInAnyMode) {
     Canvas source(2, 1);
     source.Put(0, 0, 0x000000);

@@ -1,14 +1,13 @@
 #include "vxgui/platform/gdi/RopBlit.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 
 #include "vxgui/platform/gdi/BlitReader.h"
 #include "vxgui/platform/gdi/PixelRows.h"
 #include "vxgui/platform/gdi/Record.h"
 #include "vxgui/platform/gdi/Spans.h"
-#include "vxgui/platform/gdi/WordRuns.h"
+#include "vxgui/platform/gdi/WordCopy.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -87,47 +86,6 @@ bool IsWordCopy(const PixelTarget& target, const PixelTarget& source, const Rop3
     return rop.Code() == kCopyCode && target.depth == 32 && source.depth == 32;
 }
 
-// Whole rows from one 32-bit bitmap to another; a row that is repeated is found once.
-void CopyScaledWords(const PixelTarget& target, const BlitReader& reader, const RECT& part) {
-    const int32_t count = part.right - part.left;
-    for (int32_t y = part.top; y < part.bottom; ++y) {
-        uint32_t* row = target.Row32(y) + part.left;
-        if (y > part.top && reader.SameRow(y, y - 1)) {
-            std::memcpy(row, target.Row32(y - 1) + part.left, static_cast<size_t>(count) * 4);
-        } else {
-            reader.Read(part.left, y, count, row);
-        }
-    }
-}
-
-void CopyWords(const DeviceContext& dc, const BlitReader& reader, const RECT& area) {
-    const PixelTarget target = dc.Target();
-    ForEachClipRect(dc, area, [&](const RECT& part) {
-        if (!reader.Plain()) return CopyScaledWords(target, reader, part);
-        ForEachPlainRun(target, reader, part, [](const uint32_t* s, uint32_t* t, int32_t count) {
-            std::memcpy(t, s, static_cast<size_t>(count) * 4);
-        });
-    });
-}
-
-// A plain copy within one bitmap, as in scrolling: rows in the order that reads each before it
-// is written. False when the clip has more than one part, whose order would matter too.
-bool MoveWords(const DeviceContext& dc, const PixelTarget& source, const BlitGeometry& geometry) {
-    const PixelTarget target = dc.Target();
-    if (!SamePixels(source, target) || !geometry.Plain()) return false;
-    if (dc.state.clip && dc.state.clip->Boxes().size() > 1) return false;
-    const RECT area = geometry.Area();
-    const auto bytes = static_cast<size_t>(area.right - area.left) * 4;
-    const auto left = geometry.across.Source(area.left);
-    const bool upwards = geometry.down.Source(area.top) < area.top;
-    for (int32_t i = 0; i < area.bottom - area.top; ++i) {
-        const int32_t y = upwards ? area.bottom - 1 - i : area.top + i;
-        std::memmove(target.Row32(y) + area.left,
-                     source.Row32(static_cast<int32_t>(geometry.down.Source(y))) + left, bytes);
-    }
-    return true;
-}
-
 void FillWords(const PixelTarget& target, const RECT& part, uint32_t word) {
     for (int32_t y = part.top; y < part.bottom; ++y) {
         std::fill_n(target.Row32(y) + part.left, part.right - part.left, word);
@@ -142,14 +100,9 @@ bool RopBlit(const DeviceContext& dc, const BlitSource& source, BlitGeometry geo
     geometry.CutToSource(source.pixels);
     if (geometry.Empty() || (rop.UsesPattern() && brush.IsNull())) return true;
     const PixelTarget target = dc.Target();
-    const bool wordCopy = IsWordCopy(target, source.pixels, rop);
-    if (wordCopy && MoveWords(dc, source.pixels, geometry)) return true;
+    if (IsWordCopy(target, source.pixels, rop)) return CopyWords(dc, source.pixels, geometry);
     BlitReader reader(source.pixels, geometry);
     if (!reader.Prepare(target)) return false;
-    if (wordCopy) {
-        CopyWords(dc, reader, geometry.Area());
-        return true;
-    }
     PixelConverter converter(source.pixels, target, source.mono);
     RopPainter painter(dc, rop, brush);
     painter.ReadFrom(&reader, &converter);
