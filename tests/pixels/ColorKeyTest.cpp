@@ -64,6 +64,20 @@ TEST(MergeByKey, StopsAtTheShorterOfTheTwo) {
     EXPECT_EQ(target[2], ARGB{});
 }
 
+TEST(MergeByKey, EndsWhereThePixelsDo) {
+    constexpr uint32_t kKey = 0x00CC8811;
+    const ARGB key{0xCC, 0x88, 0x11, 7}, beyond{1, 2, 3, 4};
+    for (size_t count = 0; count <= 130; ++count) {
+        std::vector<ARGB> source, target(count + 1, beyond), expected = target;
+        for (size_t i = 0; i < count; ++i) {
+            source.push_back(i % 3 == 1 ? key : ARGBFromValue(static_cast<int32_t>(i * 40503u)));
+            if (i % 3 != 1) expected[i] = source[i];
+        }
+        MergeByKey(source, target, kKey);
+        ASSERT_EQ(target, expected) << count;
+    }
+}
+
 TEST(SetAlphaByKey, KeepsTheOtherAlphasWhenNoneIsGiven) {
     for (uint32_t key : kKeys) {
         std::vector<ARGB> pixels = PixelsAround(key), expected = pixels;

@@ -6,6 +6,10 @@
 #include "vxgui/pixels/Multiversion.h"
 #include "vxgui/pixels/Steps.h"
 
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
 namespace vxgui {
 
 using namespace lanes;
@@ -34,9 +38,43 @@ namespace {
     return difference == 0;
 }
 
+#if defined(__x86_64__)
+
+/// Stores what differs from the key, of 16 pixels at a time, and leaves the target unread.
+VXGUI_TARGET_AVX512 void MergeMasked(const ARGB* source, ARGB* target, size_t count,
+                                     uint32_t match) {
+    const __m512i color = _mm512_set1_epi32(kColor);
+    const __m512i key = _mm512_set1_epi32(static_cast<int>(match));
+    const auto differing = [&](__m512i words) VXGUI_TARGET_AVX512 {
+        return _mm512_test_epi32_mask(_mm512_xor_si512(words, key), color);
+    };
+    size_t i = 0;
+    for (; i + steps::kBlock <= count; i += steps::kBlock) {
+        __m512i words[4];
+        __mmask16 shown[4];
+        for (size_t k = 0; k < 4; ++k) {
+            words[k] = _mm512_loadu_si512(source + i + k * steps::kPixels);
+            shown[k] = differing(words[k]);
+        }
+        // Not a store of nothing, which would fetch the target all the same.
+        if ((shown[0] | shown[1] | shown[2] | shown[3]) == 0) continue;
+        for (size_t k = 0; k < 4; ++k) {
+            _mm512_mask_storeu_epi32(target + i + k * steps::kPixels, shown[k], words[k]);
+        }
+    }
+    for (; i < count; i += steps::kPixels) {
+        const size_t left = std::min(count - i, steps::kPixels);
+        const auto lanes = static_cast<__mmask16>((1u << left) - 1);
+        const __m512i words = _mm512_maskz_loadu_epi32(lanes, source + i);
+        _mm512_mask_storeu_epi32(target + i, lanes & differing(words), words);
+    }
+}
+
+#endif
+
 /// Long runs of the key, as the pictures have that need one, leave the target unread.
-VXGUI_MULTIVERSION(void, MergeLoop,
-                   (const ARGB* source, ARGB* target, size_t count, uint32_t match)) {
+VXGUI_MULTIVERSION_BESIDE(MergeMasked, void, MergeLoop,
+                          (const ARGB* source, ARGB* target, size_t count, uint32_t match)) {
     steps::ForEachUnlessSkipped(
         source, target, count,
         [=](const ARGB* from, ARGB* to)

@@ -10,9 +10,11 @@
     __attribute__((                                                             \
         target("avx512f,avx512bw,avx512cd,avx512dq,avx512vl,avx2,bmi,bmi2,fma," \
                "f16c,lzcnt,movbe,popcnt")))
+#define VXGUI_WIDE_OR(wide, other) wide
 #else
 #define VXGUI_TARGET_AVX2
 #define VXGUI_TARGET_AVX512
+#define VXGUI_WIDE_OR(wide, other) other
 #endif
 
 /// Defines a pixel loop of which the compiler makes one version for each instruction set:
@@ -24,20 +26,28 @@
 /// `Invert(pixels, count)` then runs the version that the machine has the instructions for, by one
 /// load and one indirect jump. For the unnamed namespace of a source file; what is called in the
 /// loop must be inlined, or it stays plain.
-#define VXGUI_MULTIVERSION(result, name, parameters)                       \
-    [[gnu::always_inline]] static inline result name##OfAnySet parameters; \
-    static const ::vxgui::MultiversionLoop<&name##OfAnySet> name;          \
+#define VXGUI_MULTIVERSION(result, name, parameters) \
+    VXGUI_MULTIVERSION_BESIDE(name##OfAnySet, result, name, parameters)
+
+/// The same for a loop of which `wide`, a function with these parameters and `VXGUI_TARGET_AVX512`,
+/// is the version for the widest set, written by hand where compilers don't find its operations. It
+/// is declared, or left out, under `#if defined(__x86_64__)`.
+#define VXGUI_MULTIVERSION_BESIDE(wide, result, name, parameters)                                 \
+    [[gnu::always_inline]] static inline result name##OfAnySet parameters;                        \
+    static const ::vxgui::MultiversionLoop<&name##OfAnySet, &VXGUI_WIDE_OR(wide, name##OfAnySet)> \
+        name;                                                                                     \
     static inline result name##OfAnySet parameters
 
 namespace vxgui {
 
-template <auto Loop>
+template <auto Loop, auto Wide>
 class MultiversionLoop;
 
 /// The versions of one loop and the choice among them. There is one object for each loop; a loop
 /// that runs before its object was made, while the library is loaded, is the plain one.
-template <class Result, class... Arguments, Result (*Loop)(Arguments...)>
-class MultiversionLoop<Loop> : SetDependent {
+template <class Result, class... Arguments, Result (*Loop)(Arguments...),
+          Result (*Wide)(Arguments...)>
+class MultiversionLoop<Loop, Wide> : SetDependent {
 public:
     MultiversionLoop() : SetDependent(Choose) {}
 
@@ -48,7 +58,7 @@ public:
 private:
     static Result Plain(Arguments... arguments) { return Loop(arguments...); }
     VXGUI_TARGET_AVX2 static Result Avx2(Arguments... arguments) { return Loop(arguments...); }
-    VXGUI_TARGET_AVX512 static Result Avx512(Arguments... arguments) { return Loop(arguments...); }
+    VXGUI_TARGET_AVX512 static Result Avx512(Arguments... arguments) { return Wide(arguments...); }
 
     static void Choose(InstructionSet set) {
         chosen_ = set == InstructionSet::Avx512 ? Avx512
