@@ -1,8 +1,10 @@
 #include "vxgui/platform/gdi_mosaic.h"
 
+#include <cstdlib>
 #include <numeric>
 
 #include "MergeTestSupport.h"
+#include "vxgui/platform/gdi/BlitAxis.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -49,7 +51,8 @@ std::vector<uint32_t> Expected(const Canvas& target, const Canvas& source, int x
     return words;
 }
 
-Layout RandomLayout(std::mt19937& random, const PixelTarget& source) {
+/// `size` times what the tables are as long as otherwise.
+Layout RandomLayout(std::mt19937& random, const PixelTarget& source, size_t size = 1) {
     const auto table = [&](size_t size, int32_t limit) {
         std::vector<int32_t> entries(size);
         for (int32_t& entry : entries)
@@ -61,9 +64,10 @@ Layout RandomLayout(std::mt19937& random, const PixelTarget& source) {
     Layout layout;
     layout.parts.resize(random() % 4);
     for (auto& part : layout.parts) {
-        const size_t height = random() % 9;
+        const size_t height = random() % (9 * size);
         for (size_t bands = random() % 4; bands > 0; --bands)
-            part.push_back({table(random() % 7, source.width), table(height, source.height)});
+            part.push_back(
+                {table(random() % (7 * size), source.width), table(height, source.height)});
     }
     return layout;
 }
@@ -84,6 +88,37 @@ TEST(MergeMosaic, EachPixelIsMergedOnceWithTheOneItsTablesName) {
         ASSERT_TRUE(layout.Merge(target.dc, x, y, source.dc, mixer)) << round;
         ASSERT_EQ(target.Words(), expected) << round;
     }
+}
+
+// Sources of more columns than registers hold and of more rows than are kept, and parts that take
+// many steps to be laid out.
+TEST(MergeMosaic, LargePartsAreMergedLikeSmallOnes) {
+    std::mt19937 random(6);
+    for (const auto& [width, height] :
+         {std::pair{30, 30}, {64, 40}, {65, 256}, {90, 300}, {2000, 40}}) {
+        const Canvas source(width, height), target(180, 180);
+        source.Number(1000);
+        for (int round = 0; round < 20; ++round) {
+            target.Number(5);
+            if (round % 3 == 0) Clip(target.dc, random);
+            const Layout layout = RandomLayout(random, source.View(), round % 2 ? 8 : 300);
+            const std::vector<uint32_t> expected = Expected(target, source, -7, -9, layout);
+            Mixer mixer;
+            ASSERT_TRUE(layout.Merge(target.dc, -7, -9, source.dc, mixer));
+            ASSERT_EQ(target.Words(), expected) << width << " x " << height << ", " << round;
+            SelectClipRgn(target.dc, nullptr);
+        }
+    }
+}
+
+TEST(MergeMosaic, MorePartsOrBandsThanAFrameHasAreTheCallers) {
+    const Canvas source(4, 3), target(9, 9);
+    const Tables band{{0, 3}, {0, 2}};
+    Mixer mixer;
+    EXPECT_FALSE((Layout{{{band, band, band, band}}}.Merge(target.dc, 0, 0, source.dc, mixer)));
+    EXPECT_FALSE(
+        (Layout{{{band}, {band}, {band}, {band}}}.Merge(target.dc, 0, 0, source.dc, mixer)));
+    EXPECT_EQ(mixer.calls, 0);
 }
 
 TEST(MergeMosaic, WhatOnePartLacksLeavesAllAlone) {
@@ -137,6 +172,26 @@ TEST(TabulateStretch, ShowsWhatABlitOfTheSameSizesShows) {
                     << size << " to " << extent;
         }
     }
+}
+
+void ExpectAxis(int32_t start, int32_t size, int32_t extent) {
+    std::vector<int32_t> table(static_cast<size_t>(extent)), expected = table;
+    TabulateStretch(start, size, table);
+    BlitAxis(0, extent, start, size).Tabulate(expected.data());
+    ASSERT_EQ(table, expected) << size << " to " << extent;
+}
+
+// VXGUI_LONG_RUNS=1 tries all that are divided in single precision, which takes half a minute.
+TEST(TabulateStretch, DividesLikeABlitUpToItsGreatestSizes) {
+    const bool all = std::getenv("VXGUI_LONG_RUNS") != nullptr;
+    std::mt19937 random(7);
+    const auto pick = [&] { return 1 + static_cast<int32_t>(random() % 2100); };
+    const int32_t most = all ? 2049 : 100;
+    for (int32_t size = 1; size <= most; ++size)
+        for (int32_t extent = 1; extent <= most; ++extent) ExpectAxis(3, size, extent);
+    for (int round = 0; round < 5000; ++round) ExpectAxis(pick() - 1000, pick(), pick());
+    for (const int32_t size : {2046, 2047, 2048, 2049, 40000})
+        for (const int32_t extent : {2046, 2047, 2048, 2049, 40000}) ExpectAxis(0, size, extent);
 }
 
 }  // namespace
