@@ -25,12 +25,28 @@ inline std::vector<uint32_t> Premultiplied(std::vector<uint32_t> words) {
     return words;
 }
 
-/// Opaque pixels, half of them of the key colour: in long runs, or scattered.
-inline std::vector<uint32_t> KeyedPicture(int side, bool runs) {
-    std::vector<uint32_t> words = StraightPicture(side, side, runs);
-    for (uint32_t& word : words) {
-        const bool key = runs ? word >> 24 == 0 : word >> 24 < 128;
+/// Where the key stands in half of a picture's pixels: in runs of a quarter of a row, around discs of
+/// 13 pixels as in a strip of glyphs, or at random.
+enum class Keys { Runs, Glyphs, Scattered };
+constexpr std::pair<Keys, const char*> kKeyWorks[] = {
+    {Keys::Runs, "key-runs"}, {Keys::Glyphs, "key-glyphs"}, {Keys::Scattered, "key-scattered"}};
+
+/// Whether pixel `i` of a picture lies around the discs.
+inline bool AroundGlyphs(int i, int side) {
+    constexpr int kCell = 16, kTwiceCentre = kCell - 1, kFourSquaredRadii = 163;  // half of a cell
+    const int x = 2 * (i % side % kCell) - kTwiceCentre, y = 2 * (i / side % kCell) - kTwiceCentre;
+    return x * x + y * y > kFourSquaredRadii;
+}
+
+/// Opaque pixels, half of them of the key colour.
+inline std::vector<uint32_t> KeyedPicture(int side, Keys keys) {
+    std::vector<uint32_t> words = StraightPicture(side, side, keys == Keys::Runs);
+    for (int i = 0; uint32_t& word : words) {
+        const bool key = keys == Keys::Runs     ? word >> 24 == 0
+                         : keys == Keys::Glyphs ? AroundGlyphs(i, side)
+                                                : word >> 24 < 128;
         word = key ? kMagenta : word & 0xFFFFFF;
+        ++i;
     }
     return words;
 }

@@ -75,8 +75,8 @@ auto Straight(bool runs) {
 auto ForOver(bool runs) {
     return [=](int side) { return Premultiplied(StraightPicture(side, side, runs)); };
 }
-auto Keyed(bool runs) {
-    return [=](int side) { return KeyedPicture(side, runs); };
+auto Keyed(Keys keys) {
+    return [=](int side) { return KeyedPicture(side, keys); };
 }
 
 void AddPremultiply() {
@@ -96,9 +96,9 @@ void AddBlends() {
     AddSides("constant", "ours", Paints(Straight(false), Alpha(kConstant, false)));
     AddSides("constant", "roof", MixRoof());
     const auto key = [](cAlphaDIBSection& source, gdi::HDC dc) { source.TransPaintPicture(dc); };
-    for (const bool runs : {true, false}) {
-        AddSides(runs ? "key-runs" : "key-scattered", "ours", Paints(Keyed(runs), key));
-        AddSides(runs ? "key-runs" : "key-scattered", "roof", MixRoof());
+    for (const auto& [keys, work] : kKeyWorks) {
+        AddSides(work, "ours", Paints(Keyed(keys), key));
+        AddSides(work, "roof", MixRoof());
     }
 }
 

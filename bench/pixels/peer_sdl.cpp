@@ -32,11 +32,11 @@ auto Blends(bool runs) {
     };
 }
 
-auto Keys(bool runs) {
+auto Merges(Keys keys) {
     return [=](int side) {
         return [=] {
             const Surface source =
-                SurfaceOf(Square(side, KeyedPicture(side, runs)), SDL_PIXELFORMAT_RGB888);
+                SurfaceOf(Square(side, KeyedPicture(side, keys)), SDL_PIXELFORMAT_RGB888);
             SDL_SetColorKey(source.get(), SDL_TRUE, kMagenta);
             SDL_SetSurfaceRLE(source.get(), 1);
             return Blits(source, side);
@@ -55,8 +55,7 @@ auto Copies(int side) {
 const bool kAdded = [] {
     AddSides("over", "sdl", Blends(false));
     AddSides("over-runs", "sdl", Blends(true));
-    AddSides("key-runs", "sdl", Keys(true));
-    AddSides("key-scattered", "sdl", Keys(false));
+    for (const auto& [keys, work] : kKeyWorks) AddSides(work, "sdl", Merges(keys));
     AddSides("copy", "sdl", Copies);
     return true;
 }();

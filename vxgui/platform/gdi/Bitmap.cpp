@@ -16,6 +16,18 @@ PixelTarget TargetOf(const BitmapShape& shape, uint8_t* bits, const ColorTable* 
     return target;
 }
 
+BITMAP RecordOf(const BitmapShape& shape, uint8_t* bits) {
+    BITMAP record{};
+    record.bmWidth = shape.width;
+    record.bmHeight = shape.height;
+    record.bmWidthBytes = static_cast<LONG>(shape.stride);
+    record.bmPlanes = 1;
+    record.bmBitsPixel = static_cast<WORD>(shape.depth);
+    // The memory of a device bitmap is the platform's own affair.
+    record.bmBits = shape.dibSection ? bits : nullptr;
+    return record;
+}
+
 }  // namespace
 
 Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<ColorTable> colors)
@@ -23,21 +35,10 @@ Bitmap::Bitmap(const BitmapShape& shape, PixelBlock block, std::unique_ptr<Color
       shape_(shape),
       block_(block),
       colors_(std::move(colors)),
-      target_(TargetOf(shape, block.bits, colors_.get())) {}
+      target_(TargetOf(shape, block.bits, colors_.get())),
+      record_(RecordOf(shape, block.bits)) {}
 
 Bitmap::~Bitmap() { GivePixelsBack(block_); }
-
-BITMAP Bitmap::BitmapRecord() const {
-    BITMAP record{};
-    record.bmWidth = shape_.width;
-    record.bmHeight = shape_.height;
-    record.bmWidthBytes = static_cast<LONG>(shape_.stride);
-    record.bmPlanes = 1;
-    record.bmBitsPixel = static_cast<WORD>(shape_.depth);
-    // The memory of a device bitmap is the platform's own affair.
-    record.bmBits = shape_.dibSection ? block_.bits : nullptr;
-    return record;
-}
 
 BITMAPINFOHEADER Bitmap::Header() const {
     BITMAPINFOHEADER header{};
@@ -55,12 +56,11 @@ int Bitmap::Record(int size, void* buffer) const {
     if (!buffer) return kBitmapRecordSize;
     if (size < kBitmapRecordSize) return 0;
     if (!shape_.dibSection || size < kDibSectionRecordSize) {
-        const BITMAP record = BitmapRecord();
-        std::memcpy(buffer, &record, sizeof(record));
+        std::memcpy(buffer, &record_, sizeof(record_));
         return kBitmapRecordSize;
     }
     DIBSECTION record{};
-    record.dsBm = BitmapRecord();
+    record.dsBm = record_;
     record.dsBmih = Header();
     std::memcpy(buffer, &record, sizeof(record));
     return kDibSectionRecordSize;

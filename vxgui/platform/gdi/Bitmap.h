@@ -50,13 +50,13 @@ protected:
     void Deselected() override { owner_.store(nullptr, std::memory_order_release); }
 
 private:
-    BITMAP BitmapRecord() const;
     BITMAPINFOHEADER Header() const;
 
     const BitmapShape shape_;
     const PixelBlock block_;
     const std::unique_ptr<ColorTable> colors_;
     const PixelTarget target_;
+    const BITMAP record_;  // every operation of a surface asks for it
     std::atomic<const DeviceContext*> owner_{nullptr};
 };
 
