@@ -25,6 +25,15 @@ TEST(PixelBlocks, ABlockThatWasGivenBackServesAgainAndIsZeroed) {
     GivePixelsBack(block);
 }
 
+TEST(PixelBlocks, OfSeveralThatServeTheOneUsedLastComesFirst) {
+    const PixelBlock first = TakePixels(5000), second = TakePixels(5000);
+    GivePixelsBack(first);
+    GivePixelsBack(second);
+    const PixelBlock again = TakePixels(5000);
+    EXPECT_EQ(again.bits, second.bits);
+    GivePixelsBack(again);
+}
+
 TEST(PixelBlocks, BlocksBeginAtLinesOfTheCache) {
     for (const size_t size : {1u, 100u, 5000u, 300000u}) {
         const PixelBlock cleared = TakePixels(size), raw = TakeRawPixels(size);

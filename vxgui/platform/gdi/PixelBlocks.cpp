@@ -27,12 +27,13 @@ public:
         while (count_ > 0) PixelSource::Current().GiveBack(Remove(0).bits);
     }
 
-    // The smallest block that serves; none when there is none.
+    // The smallest block that serves, and of several the one kept last, which is still in the nearer
+    // caches; none when there is none.
     PixelBlock Take(size_t size) {
         size_t best = count_;
         for (size_t i = 0; i < count_; ++i) {
             if (!Serves(blocks_[i], size)) continue;
-            if (best == count_ || blocks_[i].capacity < blocks_[best].capacity) best = i;
+            if (best == count_ || blocks_[i].capacity <= blocks_[best].capacity) best = i;
         }
         return best == count_ ? PixelBlock{} : Remove(best);
     }
