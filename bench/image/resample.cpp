@@ -7,13 +7,16 @@ namespace {
 
 constexpr int kSide = 512;
 
+std::span<ARGB> ColorsOf(Pixels& pixels) {
+    return {reinterpret_cast<ARGB*>(pixels.words.data()), pixels.words.size()};
+}
+
 auto Ours(int width, int height) {
     return [=] {
-        auto source = std::make_shared<std::vector<ARGB>>(kSide * kSide);
-        const std::vector<uint32_t> words = StraightPicture(kSide, kSide, false);
-        std::memcpy(static_cast<void*>(source->data()), words.data(), words.size() * 4);
-        auto target = std::make_shared<std::vector<ARGB>>(static_cast<size_t>(width * height));
-        return [=] { ResampleBilinear(*source, kSide, *target, width); };
+        auto source = std::make_shared<Pixels>(kSide, kSide);
+        source->Set(StraightPicture(kSide, kSide, false));
+        auto target = std::make_shared<Pixels>(width, height);
+        return [=] { ResampleBilinear(ColorsOf(*source), kSide, ColorsOf(*target), width); };
     };
 }
 

@@ -54,8 +54,8 @@ std::vector<ARGB> Reference(const std::vector<ARGB>& source, int sw, int sh, int
 }
 
 TEST(ResampleBilinear, AgreesWithItsContractPixelByPixel) {
-    const std::pair<int, int> sizes[] = {{1, 1}, {1, 9},   {9, 1},  {2, 2},
-                                         {7, 5}, {16, 16}, {31, 3}, {50, 40}, {120, 9}};
+    const std::pair<int, int> sizes[] = {{1, 1},  {1, 9},   {9, 1},   {2, 2},  {7, 5},   {16, 16},
+                                         {31, 3}, {50, 40}, {120, 9}, {33, 2}, {200, 4}, {401, 3}};
     for (const auto& [sw, sh] : sizes) {
         const std::vector<ARGB> source = Noise(sw, sh);
         for (const auto& [dw, dh] : sizes) {

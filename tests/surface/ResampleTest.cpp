@@ -65,6 +65,15 @@ TEST(Resample, OfOneRowOrColumnReadsNothingBeyond) {
     }
 }
 
+TEST(Resample, OfLongRowsReadsNothingBeyond) {
+    const Ref<cAlphaDIBSection> surface = Noise(131, 2);
+    for (const int32_t width : {9, 20, 32, 40, 64, 100, 260}) {
+        const Ref<cAlphaDIBSection> scaled = surface->Resample(2, width);
+        ASSERT_TRUE(scaled);
+        EXPECT_EQ(scaled->Pixels()[0].Red, surface->Pixels()[0].Red);
+    }
+}
+
 TEST(Resample, CarriesNoKeyAndNoFlagsOver) {
     const Ref<cAlphaDIBSection> surface = Noise(4, 4);
     surface->TransparentColor(0x123456);
