@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <vector>
 
 #include "tests/surface/HlsReference.h"
@@ -39,34 +39,37 @@ void CompareOverTheCube(const HlsSettings& s) {
     reference::HlsPixel rule(s);
     for (size_t i = 0; i < cube.size(); ++i) {
         ASSERT_EQ(ValueFromARGB(actual[i]), ValueFromARGB(rule.Adjust(cube[i])))
-            << "hue " << s.hue << " luminance " << s.luminance << " saturation " << s.saturation
-            << (s.colourize ? " colourize" : "") << " red " << int(cube[i].Red) << " green "
+            << testing::PrintToString(s) << " red " << int(cube[i].Red) << " green "
             << int(cube[i].Green) << " blue " << int(cube[i].Blue);
     }
 }
 
-// All 2^24 colours; a second and a half a setting.
-TEST(HlsAdjustment, FollowsTheRulesForEveryColour) {
-    if (!std::getenv("VXGUI_LONG_RUNS"))
-        GTEST_SKIP() << "takes a minute; run it with VXGUI_LONG_RUNS=1";
-    for (const HlsSettings& s :
-         {HlsSettings{40, 15, 30, false}, HlsSettings{-77, -20, -45.5, false},
-          HlsSettings{200, 0, 63, false}, HlsSettings{301, 0, 0, false},
-          HlsSettings{0, 12, 37, false}, HlsSettings{0, -9, -63, false},
-          HlsSettings{0, 33, 0, false}, HlsSettings{0, -33, 0, false},
-          HlsSettings{75, 10, 44, true}, HlsSettings{1, 0, 0.37F, false}}) {
-        reference::HlsPixel rule(s);
-        for (int32_t red = 0; red < 256; ++red) {
-            std::vector<ARGB> colours;
-            for (int32_t i = 0; i < 65536; ++i) colours.push_back(ARGBFromValue(red << 16 | i));
-            const std::vector<ARGB> actual = Adjusted(colours, s);
-            for (size_t i = 0; i < colours.size(); ++i) {
-                ASSERT_EQ(ValueFromARGB(actual[i]), ValueFromARGB(rule.Adjust(colours[i])))
-                    << "hue " << s.hue << ", colour " << (red << 16 | static_cast<int32_t>(i));
-            }
+/// The settings that all 2^24 colours are tried with: each step alone and all together, both signs.
+class HlsAdjustmentOfAllColours : public testing::TestWithParam<HlsSettings> {};
+
+TEST_P(HlsAdjustmentOfAllColours, FollowsTheRules) {
+    reference::HlsPixel rule(GetParam());
+    std::vector<ARGB> colours(65536), expected(colours.size());
+    for (int32_t red = 0; red < 256; ++red) {
+        for (int32_t i = 0; i < 65536; ++i) {
+            const auto at = static_cast<size_t>(i);
+            colours[at] = ARGBFromValue(red << 16 | i);
+            expected[at] = rule.Adjust(colours[at]);
         }
+        const std::vector<ARGB> actual = Adjusted(colours, GetParam());
+        if (actual == expected) continue;
+        const auto wrong = std::ranges::mismatch(actual, expected).in1 - actual.begin();
+        FAIL() << "colour " << (red << 16 | wrong);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, HlsAdjustmentOfAllColours,
+    testing::Values(HlsSettings{40, 15, 30, false}, HlsSettings{-77, -20, -45.5, false},
+                    HlsSettings{200, 0, 63, false}, HlsSettings{301, 0, 0, false},
+                    HlsSettings{0, 12, 37, false}, HlsSettings{0, -9, -63, false},
+                    HlsSettings{0, 33, 0, false}, HlsSettings{0, -33, 0, false},
+                    HlsSettings{75, 10, 44, true}, HlsSettings{1, 0, 0.37F, false}));
 
 TEST(HlsAdjustment, FollowsTheRulesForEverySectorAndSign) {
     for (const float hue : {0.0F, 30.0F, 60.0F, 100.5F, 179.0F, 240.0F, 299.0F, 300.0F, 301.0F,

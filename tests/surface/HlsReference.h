@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <ostream>
 
 #include "vxgui/pixels/ARGB.h"
 
@@ -13,6 +14,10 @@ struct HlsSettings {
     float hue, luminance, saturation;
     bool colourize;
 };
+inline void PrintTo(const HlsSettings& s, std::ostream* out) {
+    *out << "hue " << s.hue << " luminance " << s.luminance << " saturation " << s.saturation
+         << (s.colourize ? " colourize" : "");
+}
 
 inline int Rounded(double value) { return static_cast<int>(std::nearbyint(value)); }
 inline int Sign(float value) { return value > 0 ? 1 : value < 0 ? -1 : 0; }
