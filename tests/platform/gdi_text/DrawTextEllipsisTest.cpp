@@ -13,6 +13,8 @@ struct EllipsisRow {
     std::u16string_view expected;
 };
 
+void PrintTo(const EllipsisRow& row, std::ostream* out) { *out << row.name; }
+
 class DrawTextEllipsis : public testing::TestWithParam<EllipsisRow> {};
 
 INSTANTIATE_TEST_SUITE_P(

@@ -25,6 +25,8 @@ struct Kind {
     GpStatus (*getGamma)(GpBrush*, BOOL*);
 };
 
+void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
+
 GpBrush* MakeLine() {
     GpBrush* brush = nullptr;
     const GpPointF from{0, 0}, to{100, 0};

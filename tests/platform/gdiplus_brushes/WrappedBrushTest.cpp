@@ -22,6 +22,8 @@ struct Kind {
     GpStatus (*rotate)(GpBrush*, REAL, MatrixOrder);
 };
 
+void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
+
 GpBrush* MakeLine() {
     GpBrush* brush = nullptr;
     const GpPointF from{0, 0}, to{10, 0};
