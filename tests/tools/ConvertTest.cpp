@@ -95,10 +95,11 @@ TEST(Convert, TgaHasTheBottomRowFirstAndAFooter) {
 TEST(Convert, TgaIsReadByAnotherProgram) {
     const std::string path = Folder() + "other.tga";
     ExpectConverted(SamplePng("sample.png"), path);
-    if (std::system("python3 -c 'import PIL.Image' >/dev/null 2>&1") != 0)
+    // The one that the packages are for, whatever else is called so.
+    if (std::system("/usr/bin/python3 -c 'import PIL.Image' >/dev/null 2>&1") != 0)
         GTEST_SKIP() << "needs the Python imaging library (Debian: python3-pil)";
     const std::string command =
-        "python3 -c \"import sys, PIL.Image; "
+        "/usr/bin/python3 -c \"import sys, PIL.Image; "
         "PIL.Image.open(sys.argv[1]).convert('RGBA').save(sys.argv[2])\" ";
     const std::string png = Folder() + "other.png";
     ASSERT_EQ(std::system((command + "'" + path + "' '" + png + "'").c_str()), 0);

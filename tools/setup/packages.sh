@@ -5,7 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build ccache pkg-config libpixman-1-dev libcairo
   libtiff-dev libzstd-dev libcbor-dev libpolyclipping-dev libcli11-dev libkainjow-mustache-dev
   python3 fonts-dejavu-core fonts-wqy-microhei"
 TEST_PACKAGES="$BUILD_PACKAGES libgtest-dev libgmock-dev fonts-noto-core imagemagick icoutils
-  qt6-base-dev libsdl2-dev libx11-dev xvfb xdotool doxygen lintian"
+  python3-pil qt6-base-dev libsdl2-dev libx11-dev xvfb xdotool doxygen lintian"
 BENCH_PACKAGES="$BUILD_PACKAGES libbenchmark-dev libyuv-dev libopencv-core-dev libopencv-imgproc-dev libsdl2-dev
   libimlib2-dev libstb-dev qt6-base-dev"
 
