@@ -126,6 +126,15 @@ TEST(Cells, ASurfaceNarrowerThanItsColumnsGivesNone) {
     EXPECT_FALSE(clip->DIBCell(0));
 }
 
+TEST(Cells, CellsOfASizeBelowZeroAreNone) {
+    const auto clip = MakeClip(MakeGrid(8, 6));
+    clip->CellHeight(-2);
+    EXPECT_EQ(clip->Rows(), -3);
+    EXPECT_FALSE(clip->DIBCell(0));
+    EXPECT_FALSE(clip->DIBClip(0, 2, 4, 0));
+    EXPECT_FALSE(clip->Cell(0));
+}
+
 TEST(Cells, APartIsANewSurfaceWithADefaultKey) {
     const auto surface = MakeGrid(4, 4);
     surface->TransparentColor(5);

@@ -44,6 +44,19 @@ TEST(SurfaceCreate, ZeroSizeGivesFalseAndAnEmptySurfaceWithFlagsThree) {
     EXPECT_EQ(surface->GetPixel(0, 0), 0);
 }
 
+TEST(SurfaceCreate, AHeightBelowZeroIsRefusedAndIsNoOtherOrderOfRows) {
+    const auto surface = MakeSurface(4, 4);
+    EXPECT_FALSE(surface->Create(4, -3));
+    EXPECT_EQ(surface->hDC(), nullptr);
+    EXPECT_EQ(surface->hDIB(), nullptr);
+    EXPECT_EQ(surface->DIBSectionBitsPtr(), nullptr);
+    EXPECT_FALSE(surface->CreateWithCompatibleDC(4, -3, nullptr));
+    gdi::HBITMAP made = nullptr;
+    EXPECT_FALSE(surface->CreateDIB(nullptr, 4, -3, made));
+    EXPECT_EQ(made, nullptr);
+    EXPECT_EQ(surface->Height(), -3) << "as asked for";
+}
+
 TEST(SurfaceCreate, AnAbsurdSizeGivesFalseAndEveryLoopThenDoesNothing) {
     const auto surface = New<cAlphaDIBSection>();
     EXPECT_FALSE(surface->Create(100000, 100000));

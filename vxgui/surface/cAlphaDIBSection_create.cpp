@@ -11,7 +11,11 @@ bool cAlphaDIBSection::CreateDIB(gdi::HDC lHDC, int32_t lWidth, int32_t lHeight,
                                  gdi::HBITMAP& hDIB) {
     const gdi::BITMAPINFO info = DibInfo(lWidth, lHeight);
     bits_ = nullptr;
-    hDIB = gdi::CreateDIBSection(lHDC, &info, gdi::DIB_RGB_COLORS, &bits_, nullptr, 0);
+    hDIB = nullptr;
+    // A height below 0 would be another order of rows, which no surface is made with.
+    if (lHeight > 0) {
+        hDIB = gdi::CreateDIBSection(lHDC, &info, gdi::DIB_RGB_COLORS, &bits_, nullptr, 0);
+    }
     header_ = info.bmiHeader;
     bitsOwner_ = hDIB;
     return hDIB != nullptr;
