@@ -29,6 +29,27 @@ TEST(SurfaceBmp, ASurfaceWithoutPixelsLeavesTheArray) {
     EXPECT_EQ(bytes, ByteArray{7});
 }
 
+TEST(SurfaceBmp, AnEmptySurfaceMakesAFileOfItsHeadersAlone) {
+    const TemporaryFolder folder;
+    const String path = folder.Path("picture.bmp");
+    EXPECT_TRUE(New<cAlphaDIBSection>()->SavePicture(path));
+    ByteArray bytes;
+    ASSERT_TRUE(core7::ReadWholeFile(path, &bytes));
+    ByteArray expected{'B', 'M', 54, 0, 0, 0, 0, 0, 0, 0, 54};
+    expected.resize(54);
+    EXPECT_EQ(bytes, expected);
+}
+
+TEST(SurfaceBmp, PixelsThatAreNotThereCannotBeWritten) {
+    const TemporaryFolder folder;
+    const auto surface = MakeCountedSurface(3, 2);
+    gdi::DeleteObject(surface->ExtractDib());
+    EXPECT_FALSE(surface->SavePicture(folder.Path("gone.bmp")));
+    const auto failed = New<cAlphaDIBSection>();
+    failed->Create(100000, 100000);
+    EXPECT_FALSE(failed->SavePicture(folder.Path("failed.bmp")));
+}
+
 TEST(SurfaceBmp, TheFileHoldsTheSameBytes) {
     const TemporaryFolder folder;
     const auto surface = MakeCountedSurface(3, 2);

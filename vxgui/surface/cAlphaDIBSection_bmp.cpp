@@ -65,9 +65,10 @@ bool cAlphaDIBSection::SaveToBmpFile(const void* bits, const String& name) {
         return !WriteFailed(result, size, written);
     };
     const auto fileHeader = FileHeader(header_.biSizeImage);
-    const size_t size = std::min(size_t{header_.biSizeImage}, bits ? MemorySize() : 0);
+    const size_t wanted = header_.biSizeImage;
+    const size_t there = std::min(wanted, bits ? MemorySize() : 0);
     return write(fileHeader.data(), fileHeader.size()) && write(&header_, sizeof header_) &&
-           write(bits, size);
+           write(bits, there) && there == wanted;
 }
 
 String cAlphaDIBSection::SystemErrorText(uint32_t code) {
