@@ -104,6 +104,14 @@ TEST(SurfaceMasks, SetTransColor2GivesEveryPixelADefinedAlpha) {
     EXPECT_EQ(MemoryOf(surface)[2], Pixel(0, 0, 0, 255));
 }
 
+TEST(SurfaceMasks, OfAKeyTheLow24BitsCount) {
+    for (const bool keep : {false, true}) {
+        const auto surface = MakeSurface(1, 1, Pixel(3, 2, 1, 77));
+        keep ? surface->SetTransColor(0x7F030201) : surface->SetTransColor2(0x7F030201);
+        EXPECT_EQ(MemoryOf(surface)[0].Alpha, 0) << keep;
+    }
+}
+
 TEST(SurfaceMasks, SetTransColor3LeavesEveryByte) {
     const auto surface = MakeSurface(2, 2, kKeyPixel);
     EXPECT_TRUE(surface->SetTransColor3().IsEmpty());
@@ -161,6 +169,19 @@ TEST(SurfaceMaskRegion, RunsAtTheStartTheMiddleAndTheEndOfARowAreCutOut) {
             return surface->GetPixel(x, y) != ValueFromARGB(kKeyPixel);
         });
     }
+}
+
+TEST(SurfaceMaskRegion, WithoutAContextNoPixelHasTheKey) {
+    const auto surface = MakeSurface(5, 4, Pixel(3, 2, 1, 0));
+    const gdi::HBITMAP bitmap = surface->ExtractDib();
+    ExpectRegion(surface->GetMaskRgn(0x030201), 5, 4, [](int, int) { return true; });
+    gdi::DeleteObject(bitmap);
+    ExpectRegion(surface->GetMaskRgn(0x030201), 5, 4, [](int, int) { return true; });
+}
+
+TEST(SurfaceMaskRegion, AKeyIsComparedWithItsTopByte) {
+    const auto surface = MakeSurface(5, 4, Pixel(3, 2, 1, 0));
+    ExpectRegion(surface->GetMaskRgn(0x7F030201), 5, 4, [](int, int) { return true; });
 }
 
 TEST(SurfaceMaskRegion, AnEmptySurfaceGivesAnEmptyRegion) {

@@ -35,7 +35,7 @@ void CutOut(gdi::HRGN region, const gdi::RECT& run) {
 }  // namespace
 
 gdi::HRGN cAlphaDIBSection::GetMaskRgn(int32_t TransColor) {
-    if (!hDC_ || !bits_) return gdi::CreateRectRgn(0, 0, 0, 0);
+    if (!bits_) return gdi::CreateRectRgn(0, 0, 0, 0);
     const gdi::HRGN region = gdi::CreateRectRgn(0, 0, Width(), Height());
     for (int32_t y = 0; y < Height(); ++y) {
         gdi::RECT run{0, y, 0, y + 1};
