@@ -117,5 +117,16 @@ TEST_F(OrderOfAttempts, OfSurfaces) {
     EXPECT_EQ(gBackground, static_cast<uint32_t>(surface->TransparentColor()));
 }
 
+TEST_F(OrderOfAttempts, OfSurfacesLeavesGdiplusOutForABlockThatEndsInATgaFooter) {
+    const std::string signature("TRUEVISION-XFILE.\0", 18);
+    ByteArray bytes(27);  // the smallest block that has room for more than a header and a footer
+    bytes.insert(bytes.end(), signature.begin(), signature.end());
+    const auto surface = New<cAlphaDIBSection>();
+    EXPECT_EQ(With(0, [&] { return surface->CreateFromByteArray(bytes); }), "");
+    EXPECT_EQ(With(0, [&] { return surface->CreateFromByteArray(bytes_, true); }), "");
+    bytes.back() = 1;
+    EXPECT_EQ(With(0, [&] { return surface->CreateFromByteArray(bytes); }), "g");
+}
+
 }  // namespace
 }  // namespace vxgui
