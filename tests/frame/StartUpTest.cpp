@@ -2,8 +2,15 @@
 
 #include "tests/frame/FrameTest.h"
 #include "vxgui/base/Error.h"
+#include "vxgui/colour/ColorAdjust_HSL.h"
+#include "vxgui/colour/GpColor.h"
 #include "vxgui/frame/modGdiplus.h"
 #include "vxgui/frame/modUtilities.h"
+#include "vxgui/gdip/GpPath.h"
+#include "vxgui/surface/cAlphaDIBSectionClip.h"
+#include "vxgui/text/LFonts.h"
+#include "vxgui/text/TextStyles.h"
+#include "vxgui/theme/ThemeSet.h"
 
 namespace vxgui {
 namespace {
@@ -119,6 +126,32 @@ TEST_F(StartUp, HappensOnceAnApartment) {
     }).join();
     EXPECT_THAT(gEvents,
                 ElementsAre("start VxGUI 1", "open DrawDib", "start GDI+ 2", "close DrawDib 1"));
+}
+
+/// What happens when an object of the class is the first of its apartment.
+template <class T>
+void ExpectSetUpBy() {
+    gEvents.clear();
+    std::thread([] {
+        UseActedServices();
+        New<T>();
+        EXPECT_TRUE(gDllLife);
+    }).join();
+    EXPECT_THAT(gEvents, ::testing::SizeIs(4)) << typeid(T).name();
+}
+
+TEST_F(StartUp, ComesWithTheFirstObjectOfAnyClass) {
+    ExpectSetUpBy<cAlphaDIBSection>();
+    ExpectSetUpBy<cAlphaDIBSectionClip>();
+    ExpectSetUpBy<GpColor>();
+    ExpectSetUpBy<ColorAdjust_HSL>();
+    ExpectSetUpBy<LFont>();
+    ExpectSetUpBy<LFonts>();
+    ExpectSetUpBy<TextStyles>();
+    ExpectSetUpBy<ThemeItem>();
+    ExpectSetUpBy<ThemeItems>();
+    ExpectSetUpBy<ThemeSet>();
+    ExpectSetUpBy<GpPath>();
 }
 
 TEST_F(StartUp, OfASecondApartmentHasItsOwnVariables) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "vxgui/base/Rounding.h"
+#include "vxgui/frame/modUtilities.h"
 
 // Named values have single precision, and the expressions between them double: where a result
 // lies on a half, that decides.
@@ -49,6 +50,8 @@ float Moved(double value, double part) {
 }
 
 }  // namespace
+
+ColorAdjust_HSL::ColorAdjust_HSL() { SetUpApartment(); }
 
 void ColorAdjust_HSL::RGBtoHLS(int32_t r, int32_t g, int32_t b, float& h, float& l, float& s) {
     const double red = Single(r / 255.0);

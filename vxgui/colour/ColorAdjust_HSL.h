@@ -10,7 +10,7 @@ namespace vxgui {
 /// The properties can only be set; all start at 0.
 class VXGUI_API ColorAdjust_HSL : public IColorAdjust {
 public:
-    ColorAdjust_HSL() = default;
+    ColorAdjust_HSL();
 
     void Colourize(bool value) { colourize_ = value; }
     /// Added to a pixel's hue, in sixths of a turn; the hue itself under `Colourize`.

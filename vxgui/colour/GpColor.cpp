@@ -3,8 +3,11 @@
 #include "vxgui/base/Rounding.h"
 #include "vxgui/colour/ColorHls.h"
 #include "vxgui/colour/modColours.h"
+#include "vxgui/frame/modUtilities.h"
 
 namespace vxgui {
+
+GpColor::GpColor() { SetUpApartment(); }
 
 void GpColor::Color(uint8_t a, uint8_t r, uint8_t g, uint8_t b) { argb_ = {b, g, r, a}; }
 

@@ -13,6 +13,8 @@ namespace vxgui {
 /// `bColorRef` asks for a COLORREF instead. Only the setters change the object.
 class VXGUI_API GpColor : public Object {
 public:
+    GpColor();
+
     // The colour.
     void Color(uint8_t a, uint8_t r, uint8_t g, uint8_t b);
     uint8_t Alpha() const { return argb_.Alpha; }

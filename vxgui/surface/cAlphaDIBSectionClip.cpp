@@ -1,6 +1,7 @@
 #include "vxgui/surface/cAlphaDIBSectionClip.h"
 
 #include "vxgui/base/Error.h"
+#include "vxgui/frame/modUtilities.h"
 #include "vxgui/surface/Stretch.h"
 
 namespace vxgui {
@@ -40,6 +41,8 @@ void cAlphaDIBSectionClip::Division::Cell(int32_t value) {
     cell = value;
     Balance();
 }
+
+cAlphaDIBSectionClip::cAlphaDIBSectionClip() { SetUpApartment(); }
 
 void cAlphaDIBSectionClip::DIBSECTION(const Ref<cAlphaDIBSection>& value) {
     surface_ = value;

@@ -14,7 +14,7 @@ namespace vxgui {
 /// anew must be assigned anew. What a width or height isn't a multiple of belongs to no cell.
 class VXGUI_API cAlphaDIBSectionClip : public Object {
 public:
-    cAlphaDIBSectionClip() = default;
+    cAlphaDIBSectionClip();
 
     Ref<cAlphaDIBSection> DIBSECTION() const { return surface_; }
     void DIBSECTION(const Ref<cAlphaDIBSection>& value);

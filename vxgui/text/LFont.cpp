@@ -5,6 +5,7 @@
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/frame/ScreenDots.h"
+#include "vxgui/frame/modUtilities.h"
 #include "vxgui/gdip/GpFont.h"
 #include "vxgui/text/TextStyle.h"
 
@@ -21,7 +22,7 @@ auto Fields(auto& font) {
 
 }  // namespace
 
-LFont::LFont() = default;
+LFont::LFont() { SetUpApartment(); }
 
 LFont::~LFont() {
     Unwatch();

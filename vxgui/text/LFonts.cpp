@@ -1,10 +1,11 @@
 #include "vxgui/text/LFonts.h"
 
+#include "vxgui/frame/modUtilities.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
 
-LFonts::LFonts() = default;
+LFonts::LFonts() { SetUpApartment(); }
 LFonts::~LFonts() = default;
 
 Ref<LFont> LFonts::Add(const String& name, const String& key, int32_t height, int32_t width,

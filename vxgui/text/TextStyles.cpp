@@ -1,8 +1,10 @@
 #include "vxgui/text/TextStyles.h"
 
+#include "vxgui/frame/modUtilities.h"
+
 namespace vxgui {
 
-TextStyles::TextStyles() = default;
+TextStyles::TextStyles() { SetUpApartment(); }
 TextStyles::~TextStyles() = default;
 
 Ref<TextStyle> TextStyles::Add(const String& key, int32_t textColor, int32_t textAlignHorz,

@@ -1,8 +1,10 @@
 #include "vxgui/theme/ThemeItem.h"
 
+#include "vxgui/frame/modUtilities.h"
+
 namespace vxgui {
 
-ThemeItem::ThemeItem() = default;
+ThemeItem::ThemeItem() { SetUpApartment(); }
 ThemeItem::~ThemeItem() = default;
 
 void ThemeItem::Bit(uint32_t mask, int32_t value) {

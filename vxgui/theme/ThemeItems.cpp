@@ -1,8 +1,10 @@
 #include "vxgui/theme/ThemeItems.h"
 
+#include "vxgui/frame/modUtilities.h"
+
 namespace vxgui {
 
-ThemeItems::ThemeItems() = default;
+ThemeItems::ThemeItems() { SetUpApartment(); }
 ThemeItems::~ThemeItems() = default;
 
 void ThemeItems::AddItem(const Ref<ThemeItem>& Item, const String& sKey) { items_.Add(Item, sKey); }
