@@ -77,6 +77,13 @@ TEST(SurfaceBmp, AFileThatCannotBeMadeRaises) {
     }
 }
 
+TEST(SurfaceBmp, TheTextOfASystemErrorIsTheSystemsOwnOrEmpty) {
+    const auto information = std::exchange(gSysInfo, nullptr);
+    EXPECT_EQ(cAlphaDIBSection::SystemErrorText(5), "Access denied");
+    gSysInfo = information;
+    EXPECT_EQ(cAlphaDIBSection::SystemErrorText(0xFFFFFFFF), "");
+}
+
 TEST(SurfaceBmp, AWriteFailsUnlessItSucceededAndWroteAll) {
     EXPECT_FALSE(cAlphaDIBSection::WriteFailed(true, 40, 40));
     EXPECT_TRUE(cAlphaDIBSection::WriteFailed(true, 40, 39));

@@ -4,9 +4,9 @@
 
 #include "vxgui/base/Error.h"
 #include "vxgui/base/OutOfMemory.h"
-#include "vxgui/frame/Apartment.h"
 #include "vxgui/frame/ErrorBox.h"
 #include "vxgui/platform/core7.h"
+#include "vxgui/platform/messages.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
 namespace vxgui {
@@ -72,7 +72,7 @@ bool cAlphaDIBSection::SaveToBmpFile(const void* bits, const String& name) {
 }
 
 String cAlphaDIBSection::SystemErrorText(uint32_t code) {
-    return gSysInfo ? gSysInfo->ErrorText(code) : String();
+    return kernel::FormatMessageA(code);
 }
 
 bool cAlphaDIBSection::WriteFailed(bool result, size_t wanted, size_t written) {

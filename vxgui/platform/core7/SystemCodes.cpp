@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <iterator>
 
+#include "vxgui/platform/messages.h"
+
 namespace vxgui::core7 {
 namespace {
 
@@ -101,3 +103,9 @@ uint32_t SystemCodeFromErrno(int error) {
 }
 
 }  // namespace vxgui::core7
+
+namespace vxgui::kernel {
+
+String FormatMessageA(DWORD code) { return core7::SystemCodeText(code); }
+
+}  // namespace vxgui::kernel
