@@ -22,14 +22,15 @@ public:
             throw Error(ErrorNumber::DuplicateKey, "Collection",
                         "This key is already associated with an element of this collection");
         }
-        Append(std::move(item), key);
+        Append({std::move(item), key.Lower()});
     }
 
     /// Adds at the end. An item that stands under the key already is taken away first.
     void AddReplacing(T item, const String& key) {
+        Entry entry{std::move(item), key.Lower()};  // the key may be that of the entry that goes
         const size_t before = key.empty() ? NameIndex::kNone : PlaceOf(key);
         if (before != NameIndex::kNone) Erase(before);
-        Append(std::move(item), key);
+        Append(std::move(entry));
     }
 
     const T& Item(int32_t index) const { return entries_[Checked(index)].item; }
@@ -71,8 +72,7 @@ private:
     }
 
     // Memory is taken before anything changes.
-    void Append(T item, const String& key) {
-        Entry entry{std::move(item), key.Lower()};
+    void Append(Entry entry) {
         if (entries_.size() == kFew) IndexAll();
         if (entries_.size() >= kFew) positions_.MakeRoom();
         entries_.push_back(std::move(entry));

@@ -51,6 +51,8 @@ VXPLATFORM_API size_t GetSize(std::span<const uint8_t> compressed);
 /// another amount than it says.
 VXPLATFORM_API std::optional<ByteArray> Decompress(const ByteArray& compressed);
 VXPLATFORM_API std::optional<ByteArray> Decompress(std::span<const uint8_t> compressed);
+/// The same into bytes whose memory serves again; false, and whatever in them, for none.
+VXPLATFORM_API bool Decompress(std::span<const uint8_t> compressed, ByteArray* bytes);
 /// What a frame may claim to hold in the calling apartment: a part of `ApartmentLimits`.
 inline size_t& ApartmentDecompressionLimit() { return ApartmentLimits().decompressedBytes; }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
 
 #include "vxgui/platform/gdi_types.h"
 
@@ -69,6 +71,10 @@ VXPLATFORM_API HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
 /// header says up to 8 bits: a bare header isn't enough then.
 VXPLATFORM_API HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits,
                                         HANDLE section, DWORD offset);
+/// The same with the bytes of `pixels` as its first ones, and zeroes behind them; what is beyond
+/// its memory is left out.
+VXPLATFORM_API HBITMAP CreateFilledDIBSection(const BITMAPINFO* info, UINT usage,
+                                              std::span<const uint8_t> pixels, void** bits);
 /// `bits` holds `scanLines` rows from `startScan` on. That and `sourceY` count from the bottom of
 /// the picture, whatever its row order; the source rectangle's lower left corner is shown at the
 /// lower left corner of the target rectangle. Answers the rows that were there.

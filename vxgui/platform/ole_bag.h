@@ -27,6 +27,8 @@ public:
     /// The same for an integer, without a variant: stores it, or stores nothing where nothing
     /// stands under the name. False for a value of another kind.
     bool ReadInteger(std::string_view name, int32_t* value);
+    /// The same for bytes, as a view of the contents.
+    bool ReadBytes(std::string_view name, std::span<const uint8_t>* value);
 
 private:
     struct Store;

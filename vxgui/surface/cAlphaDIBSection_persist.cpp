@@ -8,7 +8,6 @@
 #include "vxgui/platform/codecs.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_surfaces.h"
-#include "vxgui/surface/BitmapMemory.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
@@ -103,16 +102,14 @@ bool cAlphaDIBSection::DibFromLp(const void* lp, int32_t SIZE) {
     const gdi::HDC dc = gdi::CreateCompatibleDC(compatibleDC_);
     if (!dc) return false;
     void* bits = nullptr;
-    const gdi::HBITMAP bitmap =
-        gdi::CreateDIBSection(dc, reinterpret_cast<const gdi::BITMAPINFO*>(&info),
-                              gdi::DIB_RGB_COLORS, &bits, nullptr, 0);
+    // The pixels come over first: the block may lie in the memory that is about to go.
+    const gdi::HBITMAP bitmap = gdi::CreateFilledDIBSection(
+        reinterpret_cast<const gdi::BITMAPINFO*>(&info), gdi::DIB_RGB_COLORS,
+        {static_cast<const uint8_t*>(lp) + kSize, imageSize}, &bits);
     if (!bitmap) {
         gdi::DeleteDC(dc);
         return false;
     }
-    // The pixels come over first: the block may lie in the memory that is about to go.
-    std::memcpy(bits, static_cast<const uint8_t*>(lp) + kSize,
-                std::min(imageSize, BitmapMemory(bitmap).size()));
     Adopt(dc, bitmap, bits, info.header);
     return true;
 }

@@ -34,6 +34,16 @@ TEST(CompressorTest, WhatIsCompressedComesBack) {
     }
 }
 
+TEST(CompressorTest, BytesServeForOneFrameAfterTheOther) {
+    ByteArray bytes;
+    for (const size_t size : {1000u, 10u, 0u, 300000u, 999u}) {
+        const ByteArray noise = Noise(size, 5);
+        EXPECT_TRUE(Decompress(Compress(noise), &bytes));
+        EXPECT_EQ(bytes, noise);
+    }
+    EXPECT_FALSE(Decompress(Noise(100, 6), &bytes));
+}
+
 TEST(CompressorTest, PlainAreasBecomeSmall) {
     const ByteArray bytes(64 << 20);
     const ByteArray frame = Compress(bytes);

@@ -118,6 +118,37 @@ TEST(CreateDIBSection, ReadsOnlyTheColoursThatAreThere) {
     EXPECT_EQ(GetPixel(canvas.dc, 1, 0), RGB(0, 0, 0)) << "the rest of the table is black";
 }
 
+TEST(CreateFilledDIBSection, HasTheGivenBytesAndZeroesBehindThem) {
+    std::vector<uint8_t> bytes(3 * 4 * 8 + 9);
+    for (size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<uint8_t>(i + 1);
+    const size_t size = 3 * 4 * 8;
+    for (const size_t given : {size_t{0}, size_t{1}, size - 1, size, bytes.size()}) {
+        {
+            const Canvas before(3, 8);
+            before.Fill(0xFFFFFFFF);
+        }  // its memory serves again
+        std::vector<uint8_t> expected(size);
+        std::copy_n(bytes.begin(), std::min(given, size), expected.begin());
+        void* bits = nullptr;
+        const Canvas canvas(CreateFilledDIBSection(DibOf(3, 8, 32).get(), DIB_RGB_COLORS,
+                                                   std::span(bytes).first(given), &bits));
+        ASSERT_NE(bits, nullptr);
+        EXPECT_EQ(std::memcmp(bits, expected.data(), size), 0) << given;
+        uint32_t first;
+        std::memcpy(&first, expected.data(), sizeof first);
+        EXPECT_EQ(canvas.At(0, 7), first);  // the bottom row comes first
+    }
+}
+
+TEST(CreateFilledDIBSection, RefusesWhatCreateDIBSectionRefuses) {
+    const std::vector<uint8_t> bytes(64);
+    for (const DibInfo& wrong : {DibOf(0, 4, 32), DibOf(4, 0, 32), DibOf(4, 4, 16)}) {
+        void* bits = &bits;
+        EXPECT_EQ(CreateFilledDIBSection(wrong.get(), DIB_RGB_COLORS, bytes, &bits), nullptr);
+        EXPECT_EQ(bits, nullptr);
+    }
+}
+
 TEST(CreateBitmap, CopiesRowsThatStartAtEvenAddresses) {
     const uint8_t rows[] = {0x80, 0xEE, 0x40, 0xEE};
     Canvas canvas(CreateBitmap(3, 2, 1, 1, rows));

@@ -63,6 +63,29 @@ TEST(BagContentsTest, IntegersOfAnyWidthAreRead) {
     EXPECT_EQ(Read(low)->ReadProperty("a"), Variant(INT32_MIN));
 }
 
+TEST(BagContentsTest, IntegersOfOneOrTwoBytesAreReadWhateverFollows) {
+    const ByteArray start{0xA2, 0x61, 'a'}, next{0x61, 'b', 0xF5};
+    for (const int sign : {0, 0x20}) {
+        for (int number = 0; number < 256; ++number) {
+            ByteArray bytes = start;
+            if (number < 24) bytes.push_back(static_cast<uint8_t>(sign | number));
+            if (number >= 24)
+                bytes.insert(bytes.end(),
+                             {static_cast<uint8_t>(sign | 24), static_cast<uint8_t>(number)});
+            const size_t behind = bytes.size();
+            bytes.insert(bytes.end(), next.begin(), next.end());
+            const auto bag = Read(bytes);
+            EXPECT_EQ(bag->ReadProperty("a"), Variant(sign ? -1 - number : number));
+            EXPECT_EQ(bag->ReadProperty("b"), Variant(true));
+            bytes.resize(behind);
+            bytes[0] = 0xA1;
+            EXPECT_EQ(Read(bytes)->ReadProperty("a"), Variant(sign ? -1 - number : number));
+        }
+    }
+    EXPECT_THAT(Refusal({0xA1, 0x61, 'a', 0x18}), HasSubstr("end early, at byte 3"));
+    EXPECT_THAT(Refusal({0xA1, 0x61, 'a', 0x1C, 0}), HasSubstr("malformed item, at byte 3"));
+}
+
 TEST(BagContentsTest, AHalfFloatIsRead) {
     EXPECT_EQ(Read({0xA1, 0x61, 'a', 0xF9, 0x3E, 0x00})->ReadProperty("a"), Variant(1.5f));
 }

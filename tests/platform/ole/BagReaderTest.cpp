@@ -98,6 +98,19 @@ TEST(BagReader, ReadsIntegersAndLeavesWhatIsNoneAlone) {
     EXPECT_EQ(value, 120);
 }
 
+TEST(BagReader, ReadsBytesAndLeavesWhatIsNoneAlone) {
+    const ByteArray contents = SampleBag()->Contents(), before{9};
+    BagReader reader;
+    reader.Open(contents);
+    std::span<const uint8_t> value = before;
+    EXPECT_TRUE(reader.ReadBytes("Absent", &value));
+    EXPECT_FALSE(reader.ReadBytes("Text", &value));
+    EXPECT_FALSE(reader.ReadBytes("Width", &value));
+    EXPECT_EQ(ByteArray(value.begin(), value.end()), before);
+    EXPECT_TRUE(reader.ReadBytes("bytes", &value));
+    EXPECT_EQ(ByteArray(value.begin(), value.end()), (ByteArray{1, 2, 255}));
+}
+
 /// What is raised for contents, by the bag itself or by a reader.
 String Refusal(const ByteArray& contents, bool inPlace) {
     try {

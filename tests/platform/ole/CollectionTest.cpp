@@ -87,5 +87,17 @@ TEST(CollectionTest, ReplacingPutsTheNewItemAtTheEnd) {
     EXPECT_EQ(items.Count(), 31);
 }
 
+TEST(CollectionTest, ReplacingTakesTheCollectionsOwnKey) {
+    for (const int count : {3, 30}) {
+        Collection<int> items;
+        for (int n = 1; n <= count; ++n) items.Add(n, "Key" + String::FromInt(n));
+        items.AddReplacing(99, items.Key(2));
+        EXPECT_EQ(items.Count(), count);
+        EXPECT_EQ(items.Item("key2"), 99);
+        EXPECT_EQ(items.Key(count), "key2");
+        EXPECT_EQ(items.Item("key3"), 3);
+    }
+}
+
 }  // namespace
 }  // namespace vxgui::ole

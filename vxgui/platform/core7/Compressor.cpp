@@ -61,16 +61,21 @@ std::optional<ByteArray> Decompress(const ByteArray& compressed) {
     return Decompress(std::span(compressed));
 }
 
-std::optional<ByteArray> Decompress(std::span<const uint8_t> compressed) try {
-    const std::optional<size_t> claimed = ClaimedSize(compressed);
-    if (!claimed || !Decoder()) return {};
-    ByteArray bytes(*claimed);
-    const size_t size = ZSTD_decompressDCtx(Decoder(), bytes.data(), bytes.size(),
-                                            compressed.data(), compressed.size());
-    if (ZSTD_isError(size) || size != bytes.size()) return {};
+std::optional<ByteArray> Decompress(std::span<const uint8_t> compressed) {
+    ByteArray bytes;
+    if (!Decompress(compressed, &bytes)) return {};
     return bytes;
+}
+
+bool Decompress(std::span<const uint8_t> compressed, ByteArray* bytes) try {
+    const std::optional<size_t> claimed = ClaimedSize(compressed);
+    if (!claimed || !Decoder()) return false;
+    bytes->resize(*claimed);
+    const size_t size = ZSTD_decompressDCtx(Decoder(), bytes->data(), bytes->size(),
+                                            compressed.data(), compressed.size());
+    return !ZSTD_isError(size) && size == bytes->size();
 } catch (const std::bad_alloc&) {
-    return {};
+    return false;
 }
 
 uint32_t Checksum(const uint8_t* bytes, size_t size) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -11,21 +12,24 @@
 namespace vxgui::gdi {
 namespace {
 
-GdiRef<Bitmap> MakeBitmap(const BitmapShape& shape, const ColorTable* colors) {
+using TakesPixels = PixelBlock(size_t size);
+
+GdiRef<Bitmap> MakeBitmap(const BitmapShape& shape, const ColorTable* colors,
+                          TakesPixels* take = TakePixels) {
     size_t size = 0;
     if (__builtin_mul_overflow(static_cast<size_t>(shape.stride), static_cast<size_t>(shape.height),
                                &size)) {
         return nullptr;
     }
     auto table = colors ? std::make_unique<ColorTable>(*colors) : nullptr;
-    HeldPixels pixels(TakePixels(size));
+    HeldPixels pixels(take(size));
     if (!pixels.Get().bits) return nullptr;
     auto bitmap = std::make_unique<Bitmap>(shape, pixels.Get(), std::move(table));
     pixels.Release();
     return Enter(std::move(bitmap));
 }
 
-GdiRef<Bitmap> MakeDibSection(const DibForm& form) {
+GdiRef<Bitmap> MakeDibSection(const DibForm& form, TakesPixels* take = TakePixels) {
     BitmapShape shape;
     shape.width = form.width;
     shape.height = form.height;
@@ -33,7 +37,7 @@ GdiRef<Bitmap> MakeDibSection(const DibForm& form) {
     shape.stride = form.stride;
     shape.bottomUp = form.bottomUp;
     shape.dibSection = true;
-    return MakeBitmap(shape, form.Colors());
+    return MakeBitmap(shape, form.Colors(), take);
 }
 
 // Rows of a device bitmap start at even addresses.
@@ -95,6 +99,23 @@ HBITMAP CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, H
     if (section || !ReadDib(info, usage, &form)) return nullptr;
     const GdiRef<Bitmap> bitmap = MakeDibSection(form);
     if (bitmap && bits) *bits = bitmap->Bits();
+    return HandleOf(bitmap);
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
+
+HBITMAP CreateFilledDIBSection(const BITMAPINFO* info, UINT usage, std::span<const uint8_t> pixels,
+                               void** bits) try {
+    *bits = nullptr;
+    DibForm form;
+    if (!ReadDib(info, usage, &form)) return nullptr;
+    const GdiRef<Bitmap> bitmap = MakeDibSection(form, TakeRawPixels);
+    if (!bitmap) return nullptr;
+    *bits = bitmap->Bits();
+    const auto size = static_cast<size_t>(form.Size());
+    const size_t filled = std::min(size, pixels.size());
+    if (filled > 0) std::memcpy(bitmap->Bits(), pixels.data(), filled);
+    std::memset(bitmap->Bits() + filled, 0, size - filled);
     return HandleOf(bitmap);
 } catch (const std::bad_alloc&) {
     return nullptr;

@@ -53,12 +53,14 @@ public:
     /// Whether the next name is this one, of less than 24 bytes in the shortest form: then it is
     /// passed. A shorter way than `Name`.
     bool PassName(std::string_view name);
-    BagItem Value();
+    /// Stores the next value in an item that is fresh.
+    void Value(BagItem* item);
     /// Comes last: refuses what follows the entries.
     void End() const;
 
 private:
-    BagItem Next();
+    void Next(BagItem* item);
+    bool PassInteger(BagItem* item);
     void CheckText(const BagItem& item) const;
     void CheckInteger(const BagItem& item) const;
     [[noreturn]] void Refuse(const char* why) const;

@@ -1,12 +1,12 @@
 #include <cbor/streaming.h>
 
-#include <cstring>
 #include <limits>
 
 #include "vxgui/base/Error.h"
 #include "vxgui/base/Utf.h"
 #include "vxgui/platform/limits.h"
 #include "vxgui/platform/ole/BagCoding.h"
+#include "vxgui/platform/ole/SameBytes.h"
 
 namespace vxgui::ole {
 namespace {
@@ -54,8 +54,10 @@ cbor_callbacks Callbacks() {
     return callbacks;
 }
 
-// A text of less bytes than this has its length in its first byte.
-constexpr size_t kShortText = 24;
+// A length or an integer of less than this stands in the first byte of its item, whose upper three
+// bits are the kind; a first byte that says this has it in the byte behind it (RFC 8949, section
+// 3).
+constexpr size_t kInOneByte = 24;
 constexpr uint8_t kText = 0x60;
 
 [[noreturn]] void RefuseAt(const char* why, size_t place) {
@@ -65,7 +67,8 @@ constexpr uint8_t kText = 0x60;
 }  // namespace
 
 size_t BagDecoder::Entries() {
-    const Item map = Next();
+    Item map;
+    Next(&map);
     if (map.kind != Item::Kind::Map) Refuse("There is no map");
     // An entry takes two bytes at the least.
     if (map.number > (bytes_.size() - at_) / 2) Refuse("More entries than bytes are claimed");
@@ -74,7 +77,8 @@ size_t BagDecoder::Entries() {
 }
 
 std::string_view BagDecoder::Name() {
-    const Item name = Next();
+    Item name;
+    Next(&name);
     if (name.kind != Item::Kind::Text) Refuse("A name that is no text");
     CheckText(name);
     return name.data;
@@ -82,8 +86,8 @@ std::string_view BagDecoder::Name() {
 
 bool BagDecoder::PassName(std::string_view name) {
     const size_t size = name.size();
-    if (size >= kShortText || bytes_.size() - at_ <= size || bytes_[at_] != (kText | size) ||
-        std::memcmp(&bytes_[at_] + 1, name.data(), size) != 0) {
+    if (size >= kInOneByte || bytes_.size() - at_ <= size || bytes_[at_] != (kText | size) ||
+        !SameBytes(reinterpret_cast<const char*>(&bytes_[at_]) + 1, name.data(), size)) {
         return false;
     }
     start_ = at_;
@@ -91,38 +95,48 @@ bool BagDecoder::PassName(std::string_view name) {
     return true;
 }
 
-BagItem BagDecoder::Value() {
-    const Item item = Next();
-    switch (item.kind) {
+void BagDecoder::Value(BagItem* item) {
+    if (PassInteger(item)) return;
+    Next(item);
+    switch (item->kind) {
         case Item::Kind::Other:
         case Item::Kind::Map:
             Refuse("A value of a kind that no property has");
         case Item::Kind::Text:
-            CheckText(item);
-            return item;
+            return CheckText(*item);
         case Item::Kind::Positive:
         case Item::Kind::Negative:
-            CheckInteger(item);
-            return item;
+            return CheckInteger(*item);
         default:
-            return item;
+            return;
     }
+}
+
+// One of one or two bytes, as nearly all are, without a call.
+bool BagDecoder::PassInteger(BagItem* item) {
+    if (bytes_.size() - at_ < 2) return false;
+    const unsigned kind = bytes_[at_] >> 5, number = bytes_[at_] & 0x1F;
+    if (kind > 1 || number > kInOneByte) return false;
+    const bool behind = number == kInOneByte;
+    item->kind = kind == 0 ? Item::Kind::Positive : Item::Kind::Negative;
+    item->number = behind ? bytes_[at_ + 1] : number;
+    start_ = at_;
+    at_ += behind ? 2 : 1;
+    return true;
 }
 
 void BagDecoder::End() const {
     if (at_ < bytes_.size()) RefuseAt("Something follows the map", at_);
 }
 
-BagItem BagDecoder::Next() {
+void BagDecoder::Next(BagItem* item) {
     static const cbor_callbacks callbacks = Callbacks();
-    Item item;
     const cbor_decoder_result result =
-        cbor_stream_decode(bytes_.data() + at_, bytes_.size() - at_, &callbacks, &item);
+        cbor_stream_decode(bytes_.data() + at_, bytes_.size() - at_, &callbacks, item);
     start_ = at_;
     at_ += result.read;
     if (result.status == CBOR_DECODER_NEDATA) Refuse("The contents end early");
     if (result.status != CBOR_DECODER_FINISHED) Refuse("A malformed item");
-    return item;
 }
 
 void BagDecoder::CheckText(const BagItem& item) const {
@@ -142,7 +156,9 @@ std::vector<BagEntry> DecodeBag(const ByteArray& bytes) {
     std::vector<BagEntry> entries;
     for (size_t count = from.Entries(); entries.size() < count;) {
         String name = from.Name();
-        entries.push_back({std::move(name), ValueOf<BagValue>(from.Value())});
+        BagItem value;
+        from.Value(&value);
+        entries.push_back({std::move(name), ValueOf<BagValue>(value)});
     }
     from.End();
     return entries;

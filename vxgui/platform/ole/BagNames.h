@@ -5,6 +5,7 @@
 
 #include "vxgui/base/NameIndex.h"
 #include "vxgui/platform/ole/BagCoding.h"
+#include "vxgui/platform/ole/SameBytes.h"
 
 namespace vxgui::ole {
 
@@ -21,7 +22,10 @@ public:
     /// for a name that the bag has already.
     size_t Take(BagDecoder& from, size_t place);
     /// Whether a number's name is this one, letter by letter.
-    bool Is(size_t number, std::string_view name) const { return names_[number].text == name; }
+    bool Is(size_t number, std::string_view name) const {
+        const std::string& text = names_[number].text;
+        return text.size() == name.size() && SameBytes(text.data(), name.data(), name.size());
+    }
     /// The place of an entry by its name; `kNone` when the bag has none.
     size_t PlaceOf(std::string_view name) const;
 

@@ -14,7 +14,9 @@ struct BagReader::Store {
         BagDecoder from(contents);
         for (size_t count = from.Entries(); entries.size() < count;) {
             const size_t name = names.Take(from, entries.size());
-            entries.push_back({name, from.Value()});
+            Entry& entry = entries.emplace_back();  // written in place
+            entry.name = name;
+            from.Value(&entry.value);
         }
         from.End();
     }
@@ -35,7 +37,7 @@ struct BagReader::Store {
 
 private:
     struct Entry {
-        size_t name;
+        size_t name = 0;
         BagItem value;
     };
 
@@ -68,6 +70,13 @@ bool BagReader::ReadInteger(std::string_view name, int32_t* value) {
     const BagItem* item = store_->Find(name);
     if (item && !item->IsInteger()) return false;
     if (item) *value = item->Integer();
+    return true;
+}
+
+bool BagReader::ReadBytes(std::string_view name, std::span<const uint8_t>* value) {
+    const BagItem* item = store_->Find(name);
+    if (item && item->kind != BagItem::Kind::Bytes) return false;
+    if (item) *value = {reinterpret_cast<const uint8_t*>(item->data.data()), item->data.size()};
     return true;
 }
 

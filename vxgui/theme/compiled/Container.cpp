@@ -116,15 +116,13 @@ void Container::ReadTable() {
     if (offset != file_.size()) RaiseDamaged("damaged: bytes stand behind its last section");
 }
 
-ByteArray Container::BytesOf(size_t index) const {
+void Container::Uncompress(size_t index, ByteArray* bytes) const {
     const Entry& entry = entries_[index];
     const auto stored = std::span(file_).subspan(entry.offset, entry.storedSize);
     // What the table says and what the section says of itself must agree before room is made.
     if (core7::GetSize(stored) != entry.size)
         RaiseDamaged("damaged: a section is not as large as the table says");
-    auto bytes = core7::Decompress(stored);
-    if (!bytes) RaiseDamaged("damaged: a section can't be uncompressed");
-    return *std::move(bytes);
+    if (!core7::Decompress(stored, bytes)) RaiseDamaged("damaged: a section can't be uncompressed");
 }
 
 }  // namespace vxgui::compiled

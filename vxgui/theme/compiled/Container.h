@@ -41,7 +41,8 @@ public:
 
     size_t Count() const { return entries_.size(); }
     SectionKind KindOf(size_t index) const { return entries_[index].kind; }
-    ByteArray BytesOf(size_t index) const;
+    /// Stores the bytes of a section in memory that serves again.
+    void Uncompress(size_t index, ByteArray* bytes) const;
 
 private:
     struct Entry {

@@ -1,6 +1,6 @@
 #include "vxgui/theme/compiled/FieldBag.h"
 
-#include <algorithm>
+#include <cstring>
 
 #include "vxgui/base/Rounding.h"
 #include "vxgui/base/VariantValue.h"
@@ -38,11 +38,10 @@ void FieldReader::operator()(std::string_view name, String& field) const {
 }
 
 void FieldReader::Copy(std::string_view name, uint8_t* field, size_t size) const {
-    const Variant value = bag_->ReadProperty(name);
-    if (value.IsEmpty()) return;
-    const auto* bytes = value.As<ByteArray>();
-    if (!bytes || bytes->size() != size) RaiseDamaged("damaged: a frame table has another size");
-    std::copy(bytes->begin(), bytes->end(), field);
+    std::span<const uint8_t> bytes(field, size);
+    if (!bag_->ReadBytes(name, &bytes) || bytes.size() != size)
+        RaiseDamaged("damaged: a frame table has another size");
+    std::memmove(field, bytes.data(), size);  // onto itself where nothing stands
 }
 
 }  // namespace vxgui::compiled

@@ -60,8 +60,11 @@ void ForEachRecord(const ByteArray& bytes, Read read) {
 
 CompiledSkin SkinReader::Read() {
     skin_.set = New<ThemeSet>();
-    for (size_t i = 0; i < container_.Count(); ++i)
-        ReadSection(container_.KindOf(i), container_.BytesOf(i));
+    ByteArray bytes;
+    for (size_t i = 0; i < container_.Count(); ++i) {
+        container_.Uncompress(i, &bytes);
+        ReadSection(container_.KindOf(i), bytes);
+    }
     return std::move(skin_);
 }
 
@@ -83,7 +86,8 @@ void SkinReader::ReadSection(SectionKind kind, const ByteArray& bytes) {
             return ForEachRecord(bytes,
                                  [this](std::span<const uint8_t> record) { ReadItem(record); });
         case SectionKind::Notes:
-            skin_.notes = std::string(bytes.begin(), bytes.end());
+            skin_.notes =
+                std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
             return;
     }
     RaiseDamaged("damaged: it has a section of an unknown kind");
