@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 #include "vxgui/base/String.h"
@@ -34,6 +35,34 @@ TEST(CaseFolding, TellsEqualWhatLowersToTheSame) {
     EXPECT_FALSE(EqualFolded(u"names", u"name"));
     EXPECT_FALSE(EqualFolded(u"@", u"`"));  // beside the letters
     EXPECT_TRUE(EqualFolded(u"ÄÖÜ Ж Σ", u"äöü ж σ"));
+}
+
+// Letters of all kinds side by side, at all places of a text.
+TEST(CaseFolding, HashesAlikeWhatDiffersInCaseAlone) {
+    const std::u16string upper = u"NAME ÄÖŐ ЖΣ 7@[ŐAB", lower = u"name äöő жσ 7@[őab";
+    for (size_t from = 0; from < upper.size(); ++from) {
+        for (size_t size = 0; size <= upper.size() - from; ++size) {
+            const auto one = std::u16string_view(upper).substr(from, size);
+            const auto other = std::u16string_view(lower).substr(from, size);
+            ASSERT_TRUE(EqualFolded(one, other));
+            ASSERT_EQ(FoldedHash(one), FoldedHash(other)) << from << ", " << size;
+        }
+    }
+}
+
+TEST(CaseFolding, HashesTextsThatAreOthersApart) {
+    std::set<uint64_t> hashes;
+    size_t texts = 0;
+    for (char16_t a = u'`'; a <= u'z'; ++a) {
+        for (char16_t b = u'`'; b <= u'z'; ++b) {
+            for (const std::u16string before : {u"", u"abc", u"abcä"}) {
+                hashes.insert(FoldedHash(before + a + b));
+                hashes.insert(FoldedHash(std::u16string{a} + b + before + u"x"));
+                texts += 2;
+            }
+        }
+    }
+    EXPECT_EQ(hashes.size(), texts);
 }
 
 TEST(NameIndex, FindsEveryNameInWhateverCaseAndNoOther) {

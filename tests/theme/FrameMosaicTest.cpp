@@ -52,9 +52,11 @@ Ref<ThemeItem> ItemOf(Dice dice) {
         const auto alpha = static_cast<uint8_t>(dice.From(0, 2) * 100);
         pixel = {static_cast<uint8_t>(dice.From(0, 255)), static_cast<uint8_t>(dice.From(0, 255)),
                  static_cast<uint8_t>(dice.From(0, 255)), alpha};
+        if (dice.From(0, 3) == 0) pixel = {255, 0, 255, alpha};  // the key
     }
     const Ref<ThemeItem> item = New<ThemeItem>();
-    item->SetImage(image, count, vertical, dice.From(0, 3) ? PerPixel : Normal,
+    constexpr int32_t kModes[] = {PerPixel, PerPixel, Trans, Normal};
+    item->SetImage(image, count, vertical, kModes[dice.From(0, 3)],
                    static_cast<uint8_t>(dice.From(0, 2) ? 255 : dice.From(0, 252)));
     item->SetImageMargin(dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9), dice.From(-1, 9));
     item->SetTile(dice.From(0, 5), dice.From(0, 1), dice.From(0, 1), dice.From(0, 1),

@@ -38,6 +38,29 @@ bool Equal(View a, View b) {
                       [](auto x, auto y) { return x == y || Fold(x) == Fold(y); });
 }
 
+constexpr size_t kFour = 4;
+
+// The first four units, or zeroes where a text ends before.
+uint64_t FirstFour(std::u16string_view text) {
+    uint64_t units = 0;
+    if (text.size() >= kFour) {
+        std::memcpy(&units, text.data(), sizeof units);
+    } else {
+        std::memcpy(&units, text.data(), text.size() * sizeof(char16_t));
+    }
+    return units;
+}
+
+uint64_t FoldFour(uint64_t units) {
+    constexpr uint64_t kBeyondAscii = 0xFF80FF80FF80FF80, kCaseBits = 0x0020002000200020;
+    if ((units & kBeyondAscii) == 0) [[likely]]
+        return units | kCaseBits;
+    uint64_t folded = 0;
+    for (int shift = 0; shift < 64; shift += 16)
+        folded |= uint64_t{Fold(static_cast<char16_t>(units >> shift))} << shift;
+    return folded;
+}
+
 }  // namespace
 
 // Simple case folding of the letters that define files use: ASCII, Latin-1, Latin Extended-A,
@@ -53,14 +76,17 @@ String String::Lower() const {
 bool EqualFolded(std::u16string_view a, std::u16string_view b) { return Equal(a, b); }
 bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }
 
+// Four at a time. ASCII letters differ in one bit by their case; others that do fall on one hash.
 uint64_t FoldedHash(std::u16string_view text) {
     static const uint64_t factor = Factor();
     uint64_t hash = text.size();
-    for (const char16_t unit : text) {
-        hash = (hash + Fold(unit)) * factor;
-        hash ^= hash >> 29;  // a plain polynomial has texts that collide under every factor
+    while (!text.empty()) {
+        const uint64_t units = FirstFour(text);
+        hash = (hash ^ FoldFour(units)) * factor;
+        hash ^= hash >> 32;
+        text.remove_prefix(std::min(text.size(), kFour));
     }
-    return hash ^ hash >> 32;
+    return hash;
 }
 
 // Eight at a time. Letters differ in one bit by their case; others that do fall on one hash.

@@ -4,6 +4,7 @@
 
 #include "vxgui/frame/Apartment.h"
 #include "vxgui/pixels/Blend.h"
+#include "vxgui/surface/KeyMerger.h"
 
 namespace vxgui {
 namespace {
@@ -34,6 +35,12 @@ bool AlphaPaintMosaic(const cAlphaDIBSection& surface, gdi::HDC dc, int32_t x, i
                       std::span<const gdi::MosaicPart> parts, uint8_t alpha, bool hasAlpha) {
     MosaicBlender blender(alpha, hasAlpha);
     return gdi::MergeMosaic(dc, x, y, {surface.hDC(), parts}, blender);
+}
+
+bool TransPaintMosaic(const cAlphaDIBSection& surface, gdi::HDC dc, int32_t x, int32_t y,
+                      std::span<const gdi::MosaicPart> parts, int32_t key) {
+    KeyMerger merger(key);
+    return KeyMerger::IsBound() && gdi::MergeMosaic(dc, x, y, {surface.hDC(), parts}, merger);
 }
 
 }  // namespace vxgui

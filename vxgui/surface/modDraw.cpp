@@ -4,12 +4,12 @@
 #include <span>
 
 #include "vxgui/frame/Report.h"
-#include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/pixels/Blend.h"
 #include "vxgui/pixels/Premultiply.h"
 #include "vxgui/platform/gdi_merge.h"
 #include "vxgui/platform/gdi_shapes.h"
 #include "vxgui/surface/DibInfo.h"
+#include "vxgui/surface/KeyMerger.h"
 #include "vxgui/surface/ScratchBitmap.h"
 #include "vxgui/surface/ScratchContext.h"
 
@@ -112,18 +112,6 @@ private:
     const bool hasAlpha_;
 };
 
-class KeyMerger final : public gdi::WordMerger {
-public:
-    explicit KeyMerger(int32_t key) : key_(key) {}
-
-    void Merge(const uint32_t* source, uint32_t* target, int32_t count) override {
-        HlpMergeTransparent(source, target, count * kBytesPerPixel, key_);
-    }
-
-private:
-    const int32_t key_;
-};
-
 }  // namespace
 
 void AlphaDibBits(const void* src, void* dst, int32_t count, int32_t alpha, bool hasAlpha) {
@@ -154,8 +142,7 @@ void Vex_TransparentBlt(gdi::HDC hdcDst, int32_t x, int32_t y, int32_t w, int32_
     ReportError.Guard("Public Function Vex_TransparentBlt", [&] {
         KeyMerger merger(key);
         const Blit blit{hdcDst, x, y, w, h, hdcSrc, sx, sy, sw, sh};
-        // Binding may fail with a message: that is for one call, not for one a row.
-        HlpMergeTransparent.IsBound() ? Merge(blit, merger) : MergeThroughScratch(blit, merger);
+        KeyMerger::IsBound() ? Merge(blit, merger) : MergeThroughScratch(blit, merger);
     });
 }
 

@@ -94,14 +94,15 @@ FrameTiling TilingOf(const ThemeItem& item, int32_t width, int32_t height) {
             .down = (tile == TileXTileY || tile == StretchXTileY) && canY};
 }
 
-// Pieces that don't overlap are blended in one pass, which leaves the same pixels.
-bool PaintAsOne(gdi::HDC dc, const cAlphaDIBSection& image, const SlicedAxis& x,
-                const SlicedAxis& y, const FrameTiling& tiling, uint8_t alpha, bool perPixel) {
+// Pieces that don't overlap are painted in one pass, which leaves the same pixels:
+// `paint(left, top, parts)` answers whether it could.
+template <class Paint>
+bool PaintAsOne(const cAlphaDIBSection& image, const SlicedAxis& x, const SlicedAxis& y,
+                const FrameTiling& tiling, Paint paint) {
     if (!MayPaintMosaics(image) || !FrameMosaic::Fits(x, y, image.Width(), image.Height()))
         return false;
     const FrameMosaic mosaic(x, y, tiling);
-    return AlphaPaintMosaic(image, dc, x.near.target.start, y.near.target.start, mosaic.Parts(),
-                            alpha, perPixel);
+    return paint(x.near.target.start, y.near.target.start, mosaic.Parts());
 }
 
 }  // namespace
@@ -134,11 +135,14 @@ void ThemeItem::PaintImage(gdi::HDC hDC, int32_t xD, int32_t yD, int32_t wD, int
     x.middle.pitch = TilePitchOf(x.middle, tilePitch_.x);
     y.middle.pitch = TilePitchOf(y.middle, tilePitch_.y);
     const FrameTiling tiling = TilingOf(*this, x.middle.source.size, y.middle.source.size);
-    const bool perPixel = imageFlags_ & kPerPixel;
-    if ((perPixel || IsTranslucent()) && Tile() != CopyXYFillRest &&
-        PaintAsOne(hDC, *image_, x, y, tiling, imageAlpha_, perPixel)) {
-        return;
-    }
+    const bool perPixel = imageFlags_ & kPerPixel, blended = perPixel || IsTranslucent();
+    const auto paintAll = [&](int32_t left, int32_t top, std::span<const gdi::MosaicPart> parts) {
+        return blended
+                   ? AlphaPaintMosaic(*image_, hDC, left, top, parts, imageAlpha_, perPixel)
+                   : TransPaintMosaic(*image_, hDC, left, top, parts, image_->TransparentColor());
+    };
+    const bool merged = blended || imageFlags_ & kTrans;
+    if (merged && Tile() != CopyXYFillRest && PaintAsOne(*image_, x, y, tiling, paintAll)) return;
     const auto paint = [&](Span targetX, Span targetY, Span sourceX, Span sourceY) {
         PaintImagePiece(hDC, targetX.start, targetY.start, targetX.size, targetY.size,
                         sourceX.start, sourceY.start, sourceX.size, sourceY.size);

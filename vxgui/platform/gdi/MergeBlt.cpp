@@ -1,6 +1,6 @@
+#include "vxgui/platform/gdi/KnownPixels.h"
 #include "vxgui/platform/gdi/WordRuns.h"
 #include "vxgui/platform/gdi_merge.h"
-#include "vxgui/platform/kernel/KnownMemory.h"
 
 namespace vxgui::gdi {
 namespace {
@@ -11,7 +11,6 @@ bool SameArea(const RECT& a, const RECT& b) {
 
 auto Merges(WordMerger& merger) {
     return [&merger](const uint32_t* source, uint32_t* target, int32_t count) {
-        // A merger that looks whether its memory is there need not ask the system.
         const kernel::KnownMemory readable(source, size_t(count) * sizeof *source);
         const kernel::KnownMemory writable(target, size_t(count) * sizeof *target);
         merger.Merge(source, target, count);
@@ -29,7 +28,11 @@ bool MergeBlt(HDC handle, int x, int y, int width, int height, HDC sourceHandle,
     const PixelTarget source = from->Target(), target = dc->Target();
     if (width == sourceWidth && height == sourceHeight) {
         if (const auto rows = WholeWordRows(*dc, source, {x, y, width, height, sourceX, sourceY})) {
-            rows->ForEachRun(Merges(merger));
+            const kernel::KnownMemory readable = KnownPixels(source),
+                                      writable = KnownPixels(target);
+            rows->ForEachRun([&merger](const uint32_t* from, uint32_t* to, int32_t count) {
+                merger.Merge(from, to, count);
+            });
             return true;
         }
     }

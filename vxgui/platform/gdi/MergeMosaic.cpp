@@ -3,6 +3,7 @@
 
 #include "vxgui/platform/gdi/BlitReader.h"
 #include "vxgui/platform/gdi/HandleTable.h"
+#include "vxgui/platform/gdi/KnownPixels.h"
 #include "vxgui/platform/gdi/LaidRows.h"
 #include "vxgui/platform/gdi/ScratchBlock.h"
 
@@ -66,8 +67,11 @@ bool MergeMosaic(HDC handle, int x, int y, const Mosaic& mosaic, WordMerger& mer
     MosaicViews views;
     if (!views.Take(source, mosaic.parts)) return false;
     ScratchBlock block;
-    auto* const words = block.Take<uint32_t>(WordsFor(views));
+    const size_t count = WordsFor(views);
+    auto* const words = block.Take<uint32_t>(count);
     if (!words) return false;
+    const kernel::KnownMemory readable(words, count * sizeof *words);
+    const kernel::KnownMemory writable = KnownPixels(target);
     int64_t top = y;
     for (const MosaicView& view : views.All()) {
         if (top <= INT32_MAX) MergePart(*dc, x, static_cast<int32_t>(top), view, words, merger);

@@ -1,5 +1,6 @@
 #include "vxgui/platform/kernel/resources/ResourceTree.h"
 
+#include "vxgui/base/CaseFolding.h"
 #include "vxgui/platform/kernel/ResourceFile.h"
 #include "vxgui/platform/kernel/resources/PeFormat.h"
 #include "vxgui/platform/limits.h"
@@ -37,6 +38,20 @@ String ResourceTree::NameOf(Entry entry) const {
     return units;
 }
 
+// A directory may have thousands of names: none is copied.
+bool ResourceTree::IsNamed(Entry entry, const String& name) const {
+    if (!IsText(entry.name)) return name.view().starts_with(u'#') && NameOf(entry) == name;
+    const uint64_t start = uint64_t{OffsetOf(entry.name)} + 2;
+    const size_t length = name.size();
+    if (LengthOf(entry) != length || length > kLongestName || !root_.Has(start, 2 * length))
+        return false;
+    for (size_t i = 0; i < length; ++i) {
+        const char16_t unit = root_.Word(start + 2 * i), wanted = name.view()[i];
+        if (unit != wanted && FoldUnit(unit) != FoldUnit(wanted)) return false;
+    }
+    return true;
+}
+
 uint32_t ResourceTree::Below(Entry entry) const {
     return entry.target & pe::kHighBit ? OffsetOf(entry.target) : 0;
 }
@@ -44,9 +59,7 @@ uint32_t ResourceTree::Below(Entry entry) const {
 uint32_t ResourceTree::Below(uint32_t directory, const String& name) const {
     uint32_t below = 0;
     ForEach(directory, [&](Entry entry) {
-        // The length tells most texts apart before any of them is copied.
-        if (IsText(entry.name) && LengthOf(entry) != name.size()) return false;
-        if (!NameOf(entry).EqualsNoCase(name)) return false;
+        if (!IsNamed(entry, name)) return false;
         below = Below(entry);
         return true;
     });

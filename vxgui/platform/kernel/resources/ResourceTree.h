@@ -31,6 +31,8 @@ private:
     void ForEach(uint32_t directory, const std::function<bool(Entry)>& use) const;
     size_t LengthOf(Entry entry) const;
     String NameOf(Entry entry) const;
+    // The same as comparing what `NameOf` answers.
+    bool IsNamed(Entry entry, const String& name) const;
     // The offset of the directory below, 0 for none: the root is below nothing.
     uint32_t Below(Entry entry) const;
     uint32_t Below(uint32_t directory, const String& name) const;
