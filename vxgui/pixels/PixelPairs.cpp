@@ -25,7 +25,7 @@ bool HasWindows() { return UsedInstructionSet() == InstructionSet::Avx512; }
 
 VXGUI_TARGET_AVX512 void TakeFromWindows(const ARGB* row, const ScratchVector<uint32_t>& windows,
                                          const uint32_t* lanes, uint64_t* pairs, size_t count) {
-    using Vector __attribute__((vector_size(4 * kVector), may_alias, aligned(4))) = uint32_t;
+    using Vector __attribute__((vector_size(4 * kVector), may_alias, aligned(1))) = uint32_t;
     for (size_t i = 0; i < windows.size(); ++i) {
         const Vector* const window = reinterpret_cast<const Vector*>(row + windows[i]);
         const Vector* const chosen = reinterpret_cast<const Vector*>(lanes + i * kVector);
