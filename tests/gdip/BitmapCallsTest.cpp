@@ -96,6 +96,7 @@ TEST_F(CreationCalls, GoOnWithADibWhereTheFirstFails) {
     EXPECT_EQ(object_->Handle(), Handle<gdiplus::GpBitmap>(8));
     EXPECT_EQ(spy_.Taken(),
               "GdipCreateBitmapFromScan0(5, 6, 0, 2498570, 0, out); GdipDisposeImage(#1)");
+    EXPECT_EQ(object_->Status, gdiplus::OutOfMemory) << "the first call did fail";
     EXPECT_EQ(gHeader.biSize, 40u);
     EXPECT_EQ(gHeader.biWidth, 5);
     EXPECT_EQ(gHeader.biHeight, 6);

@@ -291,7 +291,9 @@ TEST_F(BrushWrapper, PathBrushesKeepWhatTheyAreGiven) {
     EXPECT_EQ(brush_->GetSurroundColors(got, count), gdiplus::Ok);
     EXPECT_EQ(count, 3);
     EXPECT_EQ(got[2], 3u);
+    EXPECT_EQ(brush_->Status, gdiplus::Ok);
     EXPECT_FALSE(brush_->SetSurroundColors(got, 4));
+    EXPECT_EQ(brush_->Status, gdiplus::InvalidParameter) << "whatever answers a Boolean keeps it";
     brush_->CenterColor(kBlue);
     EXPECT_EQ(brush_->CenterColor(), kBlue);
     brush_->CenterPoint({2.5f, 3});

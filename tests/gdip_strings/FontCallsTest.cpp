@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/support/FlatCalls.h"
 #include "tests/support/GdiplusSession.h"
 #include "vxgui/gdip/GpFont.h"
@@ -215,8 +217,10 @@ TEST_F(FontCalls, AFailureEndsThePathEmSearchWithWhatItHasReached) {
     EXPECT_EQ(calls_.TakeOf(ends), Lines{"GdipDeleteFontFamily(*)"});
     calls_.AnswerNothing();
     calls_.Answer("GdipCreateFont", gdiplus::GenericError);
+    font->Status = gdiplus::Ok;
     EXPECT_EQ(font->PathEmSize(), 12) << "the size itself";
     EXPECT_EQ(calls_.TakeOf(ends), Lines{"GdipDeleteFontFamily(*)"});
+    EXPECT_EQ(font->Status, gdiplus::GenericError) << "kept as any other";
 }
 
 TEST_F(FontCalls, AFamilyEndsBeforeTheNextIsLookedFor) {
@@ -256,6 +260,20 @@ TEST_F(FontCalls, AFamilysMeasuresAreThoseOfItsStyle) {
                                     "GdipIsStyleAvailable(*, 2, *)"}));
 }
 
+gdiplus::GpStatus NameOf32Units(const gdiplus::GpFontFamily*, gdiplus::WCHAR* name,
+                                gdiplus::LANGID) {
+    std::fill_n(name, 32, u'x');
+    return gdiplus::Ok;
+}
+
+TEST_F(FontCalls, AFamilysNameMayFillItsBuffer) {
+    const Ref<GpFontFamily> family = New<GpFontFamily>();
+    using Target = decltype(&NameOf32Units);
+    auto* place = decltype(flat::GdipGetFamilyName)::Place();
+    static_cast<std::atomic<Target>*>(place)->store(&NameOf32Units);
+    EXPECT_EQ(family->GetFamilyName(), std::string(32, 'x'));
+}
+
 TEST_F(FontCalls, AHandedOutFamilyIsDeletedByEveryDispose) {
     gdiplus::GpFontFamily* handle = nullptr;
     gdiplus::GdipCreateFontFamilyFromName(u"DejaVu Sans", nullptr, &handle);
@@ -280,6 +298,13 @@ TEST_F(FontCalls, InstalledFamiliesAreCountedAndListed) {
     calls_.Answer("GdipGetFontCollectionFamilyList", gdiplus::Ok);
     EXPECT_FALSE(fonts->GetInstalledFontCollection()) << "none was found";
     EXPECT_EQ(fonts->Status, gdiplus::Ok);
+    calls_.AnswerNothing();
+    calls_.Answer("GdipGetFontCollectionFamilyCount", gdiplus::GenericError);
+    calls_.Take();
+    EXPECT_FALSE(fonts->GetInstalledFontCollection());
+    EXPECT_EQ(fonts->Status, gdiplus::GenericError);
+    EXPECT_EQ(fonts->GetFamilyCount(), 0);
+    EXPECT_EQ(calls_.TakeOf({"GdipGetFontCollectionFamilyList"}), Lines{});
 }
 
 TEST_F(FontCalls, APrivateCollectionIsTheInstalledOne) {

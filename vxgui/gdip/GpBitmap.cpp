@@ -45,8 +45,8 @@ Ref<GpBitmap> GpBitmap::Clone(int32_t X, int32_t Y, int32_t& Width, int32_t& Hei
 bool GpBitmap::Create(int32_t Width, int32_t Height, gdi::HDC) {
     const KeepAlive keep(this);
     gdiplus::GpBitmap* bitmap = nullptr;
-    if (flat::GdipCreateBitmapFromScan0(Width, Height, 0, gdiplus::PixelFormat32bppARGB, nullptr,
-                                        &bitmap) == gdiplus::Ok) {
+    if (Check(flat::GdipCreateBitmapFromScan0(Width, Height, 0, gdiplus::PixelFormat32bppARGB,
+                                              nullptr, &bitmap))) {
         return Adopt(gdiplus::Ok, bitmap);
     }
     // Memory of our own instead. What no bitmap can have gets none, and the call below refuses it.

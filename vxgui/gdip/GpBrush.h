@@ -6,8 +6,8 @@ namespace vxgui {
 
 /// A brush of any kind. Creating operations answer whether they made one, and keep the brush that
 /// there is when they didn't. Operations that name no kind work by the cached type: those of
-/// textures and of both gradients do nothing on other brushes, which is no failure. Setters answer
-/// the flat status and leave `Status` alone.
+/// textures and of both gradients do nothing on other brushes, which is no failure. Setters that
+/// answer the flat status, or nothing, leave `Status` alone.
 class VXGUI_API GpBrush : public GpOwner<GpBrush, gdiplus::GpBrush> {
 public:
     static constexpr auto kDelete = flat::GdipDeleteBrush;

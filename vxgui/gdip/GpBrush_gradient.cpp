@@ -55,8 +55,8 @@ bool GpBrush::SetInterpolationColors(const gdiplus::ARGB* Colors, const float* P
                                      int32_t Count) {
     const std::vector<gdiplus::ARGB> colors = CopyOf(Colors, Count);
     if (colors.empty()) return false;
-    return ByGradient(flat::GdipSetLinePresetBlend, flat::GdipSetPathGradientPresetBlend,
-                      colors.data(), Positions, Count) == gdiplus::Ok;
+    return Check(ByGradient(flat::GdipSetLinePresetBlend, flat::GdipSetPathGradientPresetBlend,
+                            colors.data(), Positions, Count));
 }
 
 gdiplus::Status GpBrush::SetBlendBellShape(float Focus, float sScale) {

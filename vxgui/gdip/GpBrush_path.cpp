@@ -32,8 +32,8 @@ gdiplus::Status GpBrush::GetSurroundColors(gdiplus::ARGB* Colors, int32_t& Count
 
 bool GpBrush::SetSurroundColors(const gdiplus::ARGB* Colors, int32_t Count) {
     const std::vector<gdiplus::ARGB> colors = CopyOf(Colors, Count);
-    return !colors.empty() && flat::GdipSetPathGradientSurroundColorsWithCount(
-                                  handle_, colors.data(), &Count) == gdiplus::Ok;
+    return !colors.empty() &&
+           Check(flat::GdipSetPathGradientSurroundColorsWithCount(handle_, colors.data(), &Count));
 }
 
 gdiplus::GpPath* GpBrush::Path() {

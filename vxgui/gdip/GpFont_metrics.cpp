@@ -15,7 +15,7 @@ constexpr float kStep = 0.125f, kTooSmall = 0.25f, kTooLarge = 600;
 class TrialFont {
 public:
     TrialFont(gdiplus::GpFontFamily* family, float size, int32_t style) {
-        flat::GdipCreateFont(family, size, style, gdiplus::UnitWorld, &font_);
+        made_ = flat::GdipCreateFont(family, size, style, gdiplus::UnitWorld, &font_);
     }
     ~TrialFont() {
         if (font_) flat::GdipDeleteFont(font_);
@@ -23,13 +23,14 @@ public:
     TrialFont(const TrialFont&) = delete;
     TrialFont& operator=(const TrialFont&) = delete;
 
-    explicit operator bool() const { return font_ != nullptr; }
+    gdiplus::Status Made() const { return made_; }
     gdiplus::Status Height(float* height) const {
         return flat::GdipGetFontHeightGivenDPI(font_, kPathDpi, height);
     }
 
 private:
     gdiplus::GpFont* font_ = nullptr;
+    gdiplus::Status made_;
 };
 
 // The last few fonts whose handles were given out, so that these can be drawn with.
@@ -84,7 +85,7 @@ void GpFont::SearchPathEmSize(gdiplus::GpFontFamily* family, float target) {
     for (;;) {
         const TrialFont trial(family, mPathEmSize, mStyle);
         float height = 0;
-        if (!trial || trial.Height(&height) != gdiplus::Ok || height == target) return;
+        if (!Check(trial.Made()) || !Check(trial.Height(&height)) || height == target) return;
         mPathEmSize += kStep;
         if (mPathEmSize <= kTooSmall || mPathEmSize >= kTooLarge) return;
     }
