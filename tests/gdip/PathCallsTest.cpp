@@ -29,6 +29,8 @@ TEST_F(PathCalls, OfCreation) {
         [&](GpPath& p) { return p.CreatePoints(points_, types, 2); });
     Are("GdipCreatePath2I({1 2}, {7}, 2, 1, out); GdipDeletePath(#1)",
         [&](GpPath& p) { return p.CreatePointsI(pointsI_, types, 2, gdiplus::FillModeWinding); });
+    Are("GdipCreatePath2({1.5 2}, 0, 2, 0, out); GdipDeletePath(#1)",
+        [&](GpPath& p) { return p.CreatePoints(points_, nullptr, 2); });
     Are("GdipClonePath(#1, out)", [](GpPath& p) { return p.Clone(); });
     Are("GdipResetPath(#1)", [](GpPath& p) { return p.Reset(); });
 }

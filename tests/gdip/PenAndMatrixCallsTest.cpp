@@ -135,6 +135,18 @@ TEST_F(PenCalls, OfDashesAndStripes) {
         [&](GpPen& p) { return p.GetCompoundArray(list, 2); });
 }
 
+// Only lists of points, rectangles and colours are looked at before the call.
+TEST_F(PenCalls, OfListsOfNumbersAreMadeWhateverTheyHold) {
+    const float number = 1.5f;
+    Are("GdipSetPenDashArray(#1, {1.5}, 0)",
+        [&](GpPen& p) { return p.SetDashPattern(&number, 0); });
+    Are("GdipSetPenDashArray(#1, 0, 2)", [](GpPen& p) { return p.SetDashPattern(nullptr, 2); });
+    Are("GdipSetPenCompoundArray(#1, {1.5}, -1)",
+        [&](GpPen& p) { return p.SetCompoundArray(&number, -1); });
+    Are("GdipSetPenCompoundArray(#1, 0, 2)",
+        [](GpPen& p) { return p.SetCompoundArray(nullptr, 2); });
+}
+
 TEST_F(MatrixCalls, MakeAnIdentityWhereThereIsNone) {
     EXPECT_EQ(object_->Handle(), Handle<gdiplus::GpMatrix>(9));
     EXPECT_EQ(spy_.Taken(), "GdipCreateMatrix(out)");

@@ -147,11 +147,24 @@ TEST_F(PenWrapper, KeepsItsArrays) {
     EXPECT_THAT(got, testing::ElementsAreArray(dashes));
     EXPECT_TRUE(pen_->GetCompoundArray(got, 4));
     EXPECT_THAT(got, testing::ElementsAreArray(shares));
-    EXPECT_FALSE(pen_->SetDashPattern(dashes, 0));
-    EXPECT_FALSE(pen_->SetCompoundArray(shares, -1));
     EXPECT_EQ(pen_->Status, gdiplus::Ok);
     EXPECT_FALSE(pen_->GetDashPattern(got, 1));
     EXPECT_EQ(pen_->Status, gdiplus::InvalidParameter);
+}
+
+TEST_F(PenWrapper, RefusesArraysWithoutNumbers) {
+    const float dashes[] = {2, 1};
+    for (const int32_t count : {0, -1}) {
+        pen_->Status = gdiplus::Ok;
+        EXPECT_FALSE(pen_->SetDashPattern(dashes, count));
+        EXPECT_EQ(pen_->Status, gdiplus::InvalidParameter);
+        pen_->Status = gdiplus::Ok;
+        EXPECT_FALSE(pen_->SetCompoundArray(dashes, count));
+        EXPECT_EQ(pen_->Status, gdiplus::InvalidParameter);
+    }
+    EXPECT_FALSE(pen_->SetDashPattern(nullptr, 2));
+    EXPECT_FALSE(pen_->SetCompoundArray(nullptr, 2));
+    EXPECT_EQ(pen_->DashStyle(), gdiplus::DashStyleSolid);
 }
 
 TEST_F(PenWrapper, AHandleIsAdoptedAndDisposedOf) {

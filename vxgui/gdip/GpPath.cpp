@@ -12,10 +12,8 @@ bool GpPath::Create(gdiplus::FillMode FillMode) { return Make(flat::GdipCreatePa
 template <class Point, class Call>
 bool GpPath::CreateFrom(const Point* points, const uint8_t* types, int32_t count,
                         gdiplus::FillMode mode, const Call& call) {
-    const std::vector<Point> pointCopy = CopyOf(points, count);
-    const std::vector<uint8_t> typeCopy = CopyOf(types, count);
-    if (pointCopy.empty() || typeCopy.empty()) return false;
-    return Make(call, pointCopy.data(), typeCopy.data(), count, mode);
+    const std::vector<Point> copy = CopyOf(points, count);
+    return !copy.empty() && Make(call, copy.data(), types, count, mode);
 }
 
 bool GpPath::CreatePoints(const gdiplus::GpPointF* Points, const uint8_t* Types, int32_t Count,

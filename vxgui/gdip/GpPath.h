@@ -8,8 +8,8 @@ namespace vxgui {
 class GpFont;
 
 /// Figures of lines and curves. Reading its handle makes an empty path when there is none. What
-/// changes the geometry answers the flat status and leaves `Status` alone. Arrays are copied
-/// first; a count of 0 or less calls nothing and answers 0.
+/// changes the geometry answers the flat status and leaves `Status` alone. Points and rectangles
+/// are copied first; a count of 0 or less calls nothing and answers 0.
 class VXGUI_API GpPath : public GpOwner<GpPath, gdiplus::GpPath> {
 public:
     static constexpr auto kDelete = flat::GdipDeletePath;

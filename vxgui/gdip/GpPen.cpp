@@ -85,7 +85,7 @@ bool GpPen::GetDashPattern(float* Dash, int32_t Count) {
 }
 
 bool GpPen::SetDashPattern(const float* Dash, int32_t Count) {
-    return SetArray(Dash, Count, flat::GdipSetPenDashArray);
+    return Check(flat::GdipSetPenDashArray(Handle(), Dash, Count));
 }
 
 bool GpPen::GetCompoundArray(float* Compound, int32_t Count) {
@@ -93,7 +93,7 @@ bool GpPen::GetCompoundArray(float* Compound, int32_t Count) {
 }
 
 bool GpPen::SetCompoundArray(const float* Compound, int32_t Count) {
-    return SetArray(Compound, Count, flat::GdipSetPenCompoundArray);
+    return Check(flat::GdipSetPenCompoundArray(Handle(), Compound, Count));
 }
 
 }  // namespace vxgui

@@ -70,18 +70,10 @@ public:
     void DashOffset(float value);
     int32_t DashPatternCount() { return Asked<int32_t>(flat::GdipGetPenDashCount); }
     bool GetDashPattern(float* Dash, int32_t Count);
-    /// Arrays to set are copied first; a count of 0 or less calls nothing and answers false.
     bool SetDashPattern(const float* Dash, int32_t Count);
     int32_t CompoundArrayCount() { return Asked<int32_t>(flat::GdipGetPenCompoundCount); }
     bool GetCompoundArray(float* Compound, int32_t Count);
     bool SetCompoundArray(const float* Compound, int32_t Count);
-
-private:
-    template <class Set>
-    bool SetArray(const float* items, int32_t count, const Set& set) {
-        const std::vector<float> copy = CopyOf(items, count);
-        return !copy.empty() && Check(set(Handle(), copy.data(), count));
-    }
 };
 
 }  // namespace vxgui
