@@ -39,7 +39,18 @@ TEST_F(EffectWrapper, MakesAllElevenWithTheirRecords) {
 
 TEST_F(EffectWrapper, RecordsHaveTheirLayout) {
     EXPECT_EQ(sizeof(BlurParams), 8u);
+    EXPECT_EQ(offsetof(BlurParams, expandEdge), 4u);
+    EXPECT_EQ(offsetof(SharpenParams, amount), 4u);
+    EXPECT_EQ(offsetof(TintParams, amount), 4u);
     EXPECT_EQ(sizeof(RedEyeCorrectionParams), 20u);
+    EXPECT_EQ(offsetof(RedEyeCorrectionParams, areas), 4u);
+    EXPECT_EQ(offsetof(BrightnessContrastParams, contrastLevel), 4u);
+    EXPECT_EQ(offsetof(ColorBalanceParams, magentaGreen), 4u);
+    EXPECT_EQ(offsetof(ColorBalanceParams, yellowBlue), 8u);
+    EXPECT_EQ(offsetof(HueSaturationLightnessParams, saturationLevel), 4u);
+    EXPECT_EQ(offsetof(HueSaturationLightnessParams, lightnessLevel), 8u);
+    EXPECT_EQ(offsetof(LevelsParams, midtone), 4u);
+    EXPECT_EQ(offsetof(ColorCurveParams, channel), 4u);
     EXPECT_EQ(sizeof(ColorLUTParams), 1024u);
     EXPECT_EQ(offsetof(ColorLUTParams, lutG), 256u);
     EXPECT_EQ(offsetof(ColorLUTParams, lutR), 512u);
@@ -85,8 +96,9 @@ TEST_F(EffectWrapper, ParametersGoThereAndBack) {
 }
 
 TEST_F(EffectWrapper, WithoutAnEffectEveryCallFails) {
-    uint32_t size = 0;
+    uint32_t size = 5;
     EXPECT_EQ(effect_->GetParameterSize(size), gdiplus::InvalidParameter);
+    EXPECT_EQ(size, 0u) << "cleared first";
     EXPECT_EQ(effect_->GetParameters(&size, size), gdiplus::InvalidParameter);
     EXPECT_EQ(effect_->SetParameters(&size, 4), gdiplus::InvalidParameter);
 }

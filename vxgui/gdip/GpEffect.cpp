@@ -41,6 +41,7 @@ gdiplus::CGpEffect* GpEffect::Create(GpEffectType Effect) {
 }
 
 gdiplus::Status GpEffect::GetParameterSize(uint32_t& SIZE) {
+    SIZE = 0;
     return flat::GdipGetEffectParameterSize(handle_, &SIZE);
 }
 
