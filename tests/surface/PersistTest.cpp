@@ -183,6 +183,44 @@ TEST(SurfacePersist, ASmallBlockCannotAskForGigabytes) {
     EXPECT_EQ(surface->Width(), 1);
 }
 
+/// The start of a block, right before memory that nobody may read.
+class CutBlock {
+public:
+    CutBlock(const ByteArray& block, size_t readable) : page_(sysconf(_SC_PAGESIZE)) {
+        map_ = static_cast<uint8_t*>(
+            mmap(nullptr, 2 * page_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        start_ = map_ + page_ - readable;
+        std::memcpy(start_, block.data(), readable);
+        mprotect(map_ + page_, page_, PROT_NONE);
+    }
+    ~CutBlock() { munmap(map_, 2 * page_); }
+    CutBlock(const CutBlock&) = delete;
+    CutBlock& operator=(const CutBlock&) = delete;
+
+    const uint8_t* start() const { return start_; }
+
+private:
+    size_t page_;
+    uint8_t* map_;
+    uint8_t* start_;
+};
+
+TEST(SurfacePersist, ABlockThatCannotBeReadToItsEndIsRefused) {
+    const ByteArray bytes = Serialized(MakeSample());
+    const auto surface = MakeCountedSurface(1, 1);
+    for (const size_t readable : {size_t{0}, size_t{19}, size_t{20}, size_t{59}, size_t{83}}) {
+        const CutBlock block(bytes, readable);
+        EXPECT_FALSE(surface->FromLp(block.start(), 84)) << readable;
+        if (readable < 20) continue;
+        EXPECT_FALSE(surface->DibFromLp(block.start() + 20, 64)) << readable;
+    }
+    EXPECT_EQ(surface->GetPixel(0, 0), 1);
+    // A size that says more than the header needs isn't looked at.
+    const CutBlock whole(bytes, 84);
+    EXPECT_TRUE(surface->FromLp(whole.start(), 1000));
+    EXPECT_EQ(surface->GetPixel(0, 0), 4);
+}
+
 TEST(SurfacePersist, ABlockMayLieInTheSurfacesOwnPixels) {
     const ByteArray bytes = Serialized(MakeSample());
     const auto surface = MakeSurface(21, 1);

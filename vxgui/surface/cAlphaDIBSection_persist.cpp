@@ -8,6 +8,8 @@
 #include "vxgui/platform/codecs.h"
 #include "vxgui/platform/core7.h"
 #include "vxgui/platform/gdi_surfaces.h"
+#include "vxgui/platform/known_memory.h"
+#include "vxgui/platform/memory.h"
 #include "vxgui/surface/DibInfo.h"
 #include "vxgui/surface/cAlphaDIBSection.h"
 
@@ -74,6 +76,7 @@ bool cAlphaDIBSection::Equal(const Ref<cAlphaDIBSection>& Item) try {
 }
 
 bool cAlphaDIBSection::FromByteArray(const ByteArray& b) try {
+    const kernel::KnownMemory ours(b.data(), b.size());
     return !b.empty() && FromLp(b.data(), static_cast<int32_t>(b.size()));
 } catch (const std::bad_alloc&) {
     RaiseOutOfMemory("cAlphaDIBSection.FromByteArray");
@@ -82,7 +85,7 @@ bool cAlphaDIBSection::FromByteArray(const ByteArray& b) try {
 bool cAlphaDIBSection::FromLp(const void* lp, int32_t SIZE) {
     SerialHeader serial;
     constexpr auto kSize = static_cast<int32_t>(sizeof serial);
-    if (!lp || SIZE <= kSize) return false;
+    if (SIZE <= kSize || kernel::IsBadReadPtr(lp, sizeof serial)) return false;
     std::memcpy(&serial, lp, sizeof serial);
     if (!IsReadable(serial) || !DibFromLp(static_cast<const uint8_t*>(lp) + kSize, SIZE - kSize)) {
         return false;
@@ -95,17 +98,21 @@ bool cAlphaDIBSection::FromLp(const void* lp, int32_t SIZE) {
 bool cAlphaDIBSection::DibFromLp(const void* lp, int32_t SIZE) {
     StoredHeader info;
     constexpr auto kSize = static_cast<int32_t>(sizeof info.header);
-    if (!lp || SIZE < kSize) return false;
+    if (SIZE < kSize || kernel::IsBadReadPtr(lp, sizeof info.header)) return false;
     std::memcpy(&info.header, lp, sizeof info.header);
+    const uint8_t* pixels = static_cast<const uint8_t*>(lp) + kSize;
     const size_t imageSize = ImageSize(info.header);
-    if (static_cast<size_t>(SIZE - kSize) < imageSize || !IsAllowed(info.header)) return false;
+    if (static_cast<size_t>(SIZE - kSize) < imageSize || kernel::IsBadReadPtr(pixels, imageSize) ||
+        !IsAllowed(info.header)) {
+        return false;
+    }
     const gdi::HDC dc = gdi::CreateCompatibleDC(compatibleDC_);
     if (!dc) return false;
     void* bits = nullptr;
     // The pixels come over first: the block may lie in the memory that is about to go.
-    const gdi::HBITMAP bitmap = gdi::CreateFilledDIBSection(
-        reinterpret_cast<const gdi::BITMAPINFO*>(&info), gdi::DIB_RGB_COLORS,
-        {static_cast<const uint8_t*>(lp) + kSize, imageSize}, &bits);
+    const gdi::HBITMAP bitmap =
+        gdi::CreateFilledDIBSection(reinterpret_cast<const gdi::BITMAPINFO*>(&info),
+                                    gdi::DIB_RGB_COLORS, {pixels, imageSize}, &bits);
     if (!bitmap) {
         gdi::DeleteDC(dc);
         return false;

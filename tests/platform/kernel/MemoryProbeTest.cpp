@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "vxgui/platform/kernel/KnownMemory.h"
+#include "vxgui/platform/known_memory.h"
 #include "vxgui/platform/memory.h"
 
 namespace vxgui::kernel {

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "vxgui/platform/gdi/Dib.h"
-#include "vxgui/platform/kernel/KnownMemory.h"
+#include "vxgui/platform/known_memory.h"
 
 namespace vxgui::gdi {
 

@@ -1,4 +1,4 @@
-#include "vxgui/platform/kernel/KnownMemory.h"
+#include "vxgui/platform/known_memory.h"
 
 #include <functional>
 

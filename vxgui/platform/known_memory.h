@@ -2,12 +2,14 @@
 
 #include <cstddef>
 
+#include "vxgui/base/Export.h"
+
 namespace vxgui::kernel {
 
 /// A block of memory that this thread knows to be there, to be read and written, for the length of
 /// a scope: `IsBadReadPtr` and `IsBadWritePtr` need not ask the system about any part of it. Scopes
 /// end in the reverse order of their beginnings.
-class KnownMemory {
+class VXPLATFORM_API KnownMemory {
 public:
     KnownMemory(const void* block, size_t size);
     ~KnownMemory();
