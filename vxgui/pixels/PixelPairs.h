@@ -11,7 +11,8 @@ namespace vxgui {
 /// word of 64 bits, its first pixel in the lower half.
 class PixelPairs {
 public:
-    /// Rows have `length` pixels. `indices` rise; each has another pixel of the row behind it.
+    /// Rows have `length` pixels. `indices` rise, and stay as long as this; each has another pixel of
+    /// the row behind it.
     PixelPairs(const ScratchVector<uint32_t>& indices, size_t length);
 
     size_t Count() const { return indices_.size(); }
