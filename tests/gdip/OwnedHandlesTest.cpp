@@ -4,10 +4,13 @@
 #include "vxgui/gdip/GpBitmap.h"
 #include "vxgui/gdip/GpBrush.h"
 #include "vxgui/gdip/GpCachedBitmap.h"
+#include "vxgui/gdip/GpFont.h"
 #include "vxgui/gdip/GpGraphics.h"
+#include "vxgui/gdip/GpImageAttributes.h"
 #include "vxgui/gdip/GpMatrix.h"
 #include "vxgui/gdip/GpPath.h"
 #include "vxgui/gdip/GpPen.h"
+#include "vxgui/gdip/GpStringFormat.h"
 
 namespace vxgui {
 namespace {
@@ -46,6 +49,22 @@ template <>
 struct Named<GpMatrix> {
     static constexpr const char* kDelete = "GdipDeleteMatrix";
 };
+template <>
+struct Named<GpFont> {
+    static constexpr const char* kDelete = "GdipDeleteFont";
+};
+template <>
+struct Named<GpFontFamily> {
+    static constexpr const char* kDelete = "GdipDeleteFontFamily";
+};
+template <>
+struct Named<GpStringFormat> {
+    static constexpr const char* kDelete = "GdipDeleteStringFormat";
+};
+template <>
+struct Named<GpImageAttributes> {
+    static constexpr const char* kDelete = "GdipDisposeImageAttributes";
+};
 
 template <class Object>
 class OwnedHandles : public testing::Test {
@@ -60,12 +79,19 @@ protected:
         spy_.Taken();
     }
 
-    Ref<Object> object_ = New<Object>();  // before the spy: the first object starts GDI+
+    /// Some classes make a flat object for each new one.
+    static Ref<Object> Empty() {
+        Ref<Object> object = New<Object>();
+        object->Dispose();
+        return object;
+    }
+
+    Ref<Object> object_ = Empty();  // before the spy: the first object starts GDI+
     test::FlatSpy spy_;
 };
 
-using All =
-    testing::Types<GpImage, GpBitmap, GpCachedBitmap, GpGraphics, GpPen, GpBrush, GpPath, GpMatrix>;
+using All = testing::Types<GpImage, GpBitmap, GpCachedBitmap, GpGraphics, GpPen, GpBrush, GpPath,
+                           GpMatrix, GpFont, GpFontFamily, GpStringFormat, GpImageAttributes>;
 TYPED_TEST_SUITE(OwnedHandles, All);
 
 TYPED_TEST(OwnedHandles, AreDeletedWhenOthersTakeTheirPlace) {

@@ -16,6 +16,37 @@ namespace {
 
 constexpr gdiplus::ARGB kRed = 0xFFFF0000, kBlue = 0xFF0000FF;
 
+TEST(BitmapValues, AreThePublishedOnes) {
+    using namespace gdiplus;
+    const PixelFormat formats[] = {
+        PixelFormat1bppIndexed,    PixelFormat4bppIndexed, PixelFormat8bppIndexed,
+        PixelFormat16bppGrayScale, PixelFormat16bppRGB555, PixelFormat16bppRGB565,
+        PixelFormat16bppARGB1555,  PixelFormat24bppRGB,    PixelFormat32bppRGB,
+        PixelFormat32bppARGB,      PixelFormat32bppPARGB,  PixelFormat48bppRGB,
+        PixelFormat64bppARGB,      PixelFormat64bppPARGB,  PixelFormat32bppCMYK};
+    const int32_t bits[] = {1, 4, 8, 16, 16, 16, 16, 24, 32, 32, 32, 48, 64, 64, 32};
+    for (int32_t i = 0; i < 15; ++i) {
+        EXPECT_EQ(formats[i] & 0xFF, i + 1) << "they are counted through";
+        EXPECT_EQ(formats[i] >> 8 & 0xFF, bits[i]);
+    }
+    EXPECT_EQ(PixelFormat32bppARGB, 2498570);
+    EXPECT_EQ(PixelFormat32bppPARGB, 925707);
+    EXPECT_EQ(PixelFormat24bppRGB, 137224);
+    EXPECT_EQ(DitherTypeNone, 0);
+    EXPECT_EQ(DitherTypeOrdered4x4, 2);
+    EXPECT_EQ(DitherTypeDualSpiral8x8, 8);
+    EXPECT_EQ(DitherTypeErrorDiffusion, 9);
+    EXPECT_EQ(PaletteTypeCustom, 0);
+    EXPECT_EQ(PaletteTypeOptimal, 1);
+    EXPECT_EQ(PaletteTypeFixedHalftone8, 3);
+    EXPECT_EQ(PaletteTypeFixedHalftone256, 9);
+    EXPECT_EQ(HistogramFormatARGB, 0);
+    EXPECT_EQ(HistogramFormatPARGB, 1);
+    EXPECT_EQ(HistogramFormatGray, 3);
+    EXPECT_EQ(HistogramFormatB, 4);
+    EXPECT_EQ(HistogramFormatA, 7);
+}
+
 class BitmapWrapper : public testing::Test {
 protected:
     static Ref<GpBitmap> Make(int32_t width = 3, int32_t height = 2) {

@@ -135,6 +135,13 @@ TEST_F(GpGraphicsTest, LendsItsContext) {
     EXPECT_TRUE(graphics_->Clear());
 }
 
+TEST_F(GpGraphicsTest, StartsWithThePlatformsSettings) {
+    EXPECT_EQ(graphics_->PageUnit(), gdiplus::UnitDisplay);
+    EXPECT_EQ(graphics_->PageScale(), 1);
+    EXPECT_EQ(graphics_->InterpolationMode(), gdiplus::InterpolationModeBilinear);
+    EXPECT_EQ(graphics_->TextContrast(), 4u);
+}
+
 TEST_F(GpGraphicsTest, ReadsBackItsSettings) {
     graphics_->CompositingMode(gdiplus::CompositingModeSourceCopy);
     graphics_->CompositingQuality(gdiplus::CompositingQualityHighSpeed);
