@@ -1,4 +1,5 @@
 #include "tests/frame/FrameTest.h"
+#include "tests/support/FlatCalls.h"
 #include "tests/support/GdiplusSession.h"
 #include "tests/support/Images.h"
 #include "vxgui/base/Error.h"
@@ -181,6 +182,32 @@ TEST_F(PaintedImages, NeedNoAttributesAtFullAlpha) {
     EXPECT_FALSE(flat::GdipCreateImageAttributes.IsBound());
     EXPECT_EQ(Global().GdipPaintPicture(dc_, image_, 0, 0, -1, -1, 0, 0, -1, -1, 254), -1);
     EXPECT_TRUE(flat::GdipCreateImageAttributes.IsBound());
+}
+
+TEST_F(PaintedImages, AreDrawnByTheseCalls) {
+    const auto paint = [&](uint8_t alpha) {
+        return Global().GdipPaintPicture(dc_, image_, 1, 2, -1, -1, 3, 4, -1, -1, alpha);
+    };
+    test::FlatCalls calls;
+    EXPECT_EQ(paint(255), -1);
+    // The source's size is the image's whatever its origin is, and the target's the same.
+    EXPECT_THAT(calls.Take(),
+                ElementsAre("GdipCreateFromHDC(*, *)", "GdipGetImageWidth(*, *)",
+                            "GdipGetImageHeight(*, *)",
+                            "GdipDrawImageRectRectI(*, *, 1, 2, 13, 11, 3, 4, 13, 11, 2, 0, 0, 0)",
+                            "GdipDeleteGraphics(*)"));
+    EXPECT_EQ(paint(254), -1);
+    const std::vector<std::string> faded = calls.Take();
+    EXPECT_THAT(faded, ::testing::Contains("GdipDrawImageRectRectI(*, *, 1, 2, 13, 11, 3, 4, 13, "
+                                           "11, 2, *, 0, 0)"));
+    EXPECT_THAT(faded, ::testing::Contains(
+                           ::testing::StartsWith("GdipSetImageAttributesColorMatrix(*, 0, 1, ")));
+    calls.Answer("GdipDrawImageRectRectI", gdiplus::GenericError);
+    EXPECT_EQ(paint(255), 0);
+    EXPECT_EQ(calls.Take().back(), "GdipDeleteGraphics(*)");
+    calls.Answer("GdipCreateFromHDC", gdiplus::GenericError);
+    EXPECT_EQ(paint(255), 0);
+    EXPECT_THAT(calls.Take(), ElementsAre("GdipCreateFromHDC(*, *)"));
 }
 
 TEST_F(PaintedImages, AnswerFalseWithoutAContextOrAnImage) {

@@ -1,5 +1,6 @@
 #include "tests/gdip/WrapperCalls.h"
 #include "tests/gdip_bitmaps/ShownMessages.h"
+#include "vxgui/gdip/Encoders.h"
 #include "vxgui/gdip/GpImage.h"
 
 namespace vxgui {
@@ -63,6 +64,15 @@ TEST_F(SavingCalls, AreNoneWithoutAnEncoder) {
                              "bmp jpeg gif tiff png:image/bmp"}));
     EXPECT_EQ(spy_.Taken(), "");
     EXPECT_EQ(object_->Status, gdiplus::Ok);
+}
+
+TEST_F(SavingCalls, AreOfTheLastEncoderWithTheVeryName) {
+    gMimes = {u"image/x", u"image/y", u"image/x", u"IMAGE/X", u"image/xx", nullptr};
+    gdiplus::CLSID id{};
+    EXPECT_TRUE(GetEncoderClsid("image/x", id));
+    EXPECT_EQ(id.Data1, 73u);
+    EXPECT_FALSE(GetEncoderClsid("image/", id));
+    EXPECT_EQ(id.Data1, 73u);
 }
 
 TEST_F(SavingCalls, OfAFormatHaveNoParameters) {
