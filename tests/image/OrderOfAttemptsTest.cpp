@@ -4,6 +4,7 @@
 
 #include "tests/support/GdiplusSession.h"
 #include "tests/support/TemporaryFolder.h"
+#include "vxgui/base/Error.h"
 #include "vxgui/image/PictureOperations.h"
 #include "vxgui/image/modPicture.h"
 #include "vxgui/platform/gdi_dib.h"
@@ -126,6 +127,25 @@ TEST_F(OrderOfAttempts, OfSurfacesLeavesGdiplusOutForABlockThatEndsInATgaFooter)
     EXPECT_EQ(With(0, [&] { return surface->CreateFromByteArray(bytes_, true); }), "");
     bytes.back() = 1;
     EXPECT_EQ(With(0, [&] { return surface->CreateFromByteArray(bytes); }), "g");
+}
+
+TEST_F(OrderOfAttempts, GoesOnBehindALoaderThatRaises) {
+    PictureDecoders raising = kActed;
+    raising.platformFile = [](const String&) -> Ref<ole::Picture> {
+        gAsked += 'P';
+        throw Error(ErrorNumber::FileNotFound, "acted", "no file");
+    };
+    gPictureDecoders = &raising;
+    const auto surface = New<cAlphaDIBSection>();
+    const auto fill = [&] { return surface->CreateFromPictureFile(File("a.png")); };
+    EXPECT_EQ(With('G', fill), "PG");
+    EXPECT_EQ(With(0, fill), "PG");
+    EXPECT_EQ(With(0, [&] { return LoadPicture2(File("a.png")) != nullptr; }), "GP");
+    EXPECT_EQ(With('G', [&] { return PictureFromFile(File("a.x"), 0x12) != nullptr; }), "PG");
+    raising.gdipFile = [](const String&, uint32_t) -> gdi::HBITMAP {
+        throw Error(ErrorNumber::OutOfMemory, "acted", "no memory");
+    };
+    EXPECT_EQ(With(0, fill), "P");
 }
 
 }  // namespace
