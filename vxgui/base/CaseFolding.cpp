@@ -40,15 +40,16 @@ bool Equal(View a, View b) {
 
 constexpr size_t kFour = 4;
 
-// The first four units, or zeroes where a text ends before.
-uint64_t FirstFour(std::u16string_view text) {
-    uint64_t units = 0;
-    if (text.size() >= kFour) {
-        std::memcpy(&units, text.data(), sizeof units);
-    } else {
-        std::memcpy(&units, text.data(), text.size() * sizeof(char16_t));
-    }
+uint64_t FourAt(const char16_t* text) {
+    uint64_t units;
+    std::memcpy(&units, text, sizeof units);
     return units;
+}
+
+// All units of a text of up to three.
+uint64_t FewUnits(std::u16string_view text) {
+    if (text.empty()) return 0;
+    return text.front() | uint64_t{text[text.size() / 2]} << 16 | uint64_t{text.back()} << 32;
 }
 
 uint64_t FoldFour(uint64_t units) {
@@ -76,17 +77,19 @@ String String::Lower() const {
 bool EqualFolded(std::u16string_view a, std::u16string_view b) { return Equal(a, b); }
 bool EqualFolded(std::string_view a, std::string_view b) { return Equal(a, b); }
 
-// Four at a time. ASCII letters differ in one bit by their case; others that do fall on one hash.
+// Four at a time; the last four may begin in those before them. ASCII letters differ in one bit by
+// their case; others that do fall on one hash.
 uint64_t FoldedHash(std::u16string_view text) {
     static const uint64_t factor = Factor();
-    uint64_t hash = text.size();
-    while (!text.empty()) {
-        const uint64_t units = FirstFour(text);
+    const auto mix = [](uint64_t hash, uint64_t units) {
         hash = (hash ^ FoldFour(units)) * factor;
-        hash ^= hash >> 32;
-        text.remove_prefix(std::min(text.size(), kFour));
-    }
-    return hash;
+        return hash ^ hash >> 32;
+    };
+    const size_t size = text.size();
+    uint64_t hash = size * factor;
+    if (size < kFour) return mix(hash, FewUnits(text));
+    for (size_t at = 0; at + kFour < size; at += kFour) hash = mix(hash, FourAt(text.data() + at));
+    return mix(hash, FourAt(text.data() + size - kFour));
 }
 
 // Eight at a time. Letters differ in one bit by their case; others that do fall on one hash.

@@ -53,28 +53,24 @@ CompiledSkin CompiledSkinFrom(const ByteArray& file, const String& path) {
 ByteArray BytesOfCompiledSkin(const CompiledSkin& skin) try {
     return compiled::WriteContainer(compiled::SkinWriter().Write(skin));
 } catch (const std::bad_alloc&) {
-    RaiseOutOfMemory("CompiledSkin");
+    RaiseOutOfMemory(kSource);
 }
 
 CompiledSkin LoadCompiledSkin(const String& path) try {
-    return WithPath(path, [&] {
-        ByteArray file;
-        if (!core7::ReadWholeFile(path, &file, ApartmentLimits().skinFileBytes))
-            throw Error(ErrorNumber::FileNotFound, kSource, Reason());
-        return CompiledSkinFrom(file);
-    });
+    ByteArray file;
+    if (!core7::ReadWholeFile(path, &file, ApartmentLimits().skinFileBytes))
+        throw Error(ErrorNumber::FileNotFound, path, Reason());
+    return CompiledSkinFrom(file, path);
 } catch (const std::bad_alloc&) {
-    RaiseOutOfMemory("CompiledSkin");
+    RaiseOutOfMemory(kSource);
 }
 
 void SaveCompiledSkin(const CompiledSkin& skin, const String& path) try {
-    WithPath(path, [&] {
-        const ByteArray file = BytesOfCompiledSkin(skin);
-        if (!core7::WriteWholeFile(path, file.data(), file.size()))
-            throw Error(ErrorNumber::PathNotFound, kSource, Reason());
-    });
+    const ByteArray file = WithPath(path, [&] { return BytesOfCompiledSkin(skin); });
+    if (!core7::WriteWholeFile(path, file.data(), file.size()))
+        throw Error(ErrorNumber::PathNotFound, path, Reason());
 } catch (const std::bad_alloc&) {
-    RaiseOutOfMemory("CompiledSkin");
+    RaiseOutOfMemory(kSource);
 }
 
 }  // namespace vxgui
