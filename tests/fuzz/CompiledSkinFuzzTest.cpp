@@ -63,8 +63,10 @@ TEST(CompiledSkinFuzz, TwoThousandRandomEditsOfWhatTheFileHoldsAreTakenOrRefused
     const ByteArray file = BytesOfCompiledSkin(Sample());
     const compiled::Container container(file);
     std::vector<compiled::Section> sections;
-    for (size_t i = 0; i < container.Count(); ++i)
-        sections.push_back({container.KindOf(i), container.BytesOf(i)});
+    for (size_t i = 0; i < container.Count(); ++i) {
+        sections.push_back({container.KindOf(i), {}});
+        container.Uncompress(i, &sections.back().bytes);
+    }
     int taken = 0;
     for (int i = 0; i < 2000; ++i) {
         std::vector<compiled::Section> edited = sections;
