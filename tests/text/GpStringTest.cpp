@@ -5,6 +5,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/GdiplusSession.h"
 #include "tests/text/TextCanvas.h"
+#include "vxgui/platform/gdi/HandleTable.h"
 
 namespace vxgui {
 namespace {
@@ -69,6 +70,14 @@ TEST_F(RenderedString, WithoutReachThereIsAPixelToSpareAndNoMargin) {
     string_->SetShadow(3, 2, 0, 0);
     string_->SetText("H");
     EXPECT_EQ(string_->AlphaDIBSection()->Width(), width + 6);
+}
+
+TEST_F(RenderedString, ItsContextEndsWithIt) {
+    const size_t before = gdi::HandleTable::LiveCount();
+    Ref<GpString> other = New<GpString>();
+    EXPECT_GT(gdi::HandleTable::LiveCount(), before);
+    other = nullptr;
+    EXPECT_EQ(gdi::HandleTable::LiveCount(), before);
 }
 
 TEST_F(RenderedString, NeedsItsObjects) {

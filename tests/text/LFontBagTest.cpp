@@ -62,6 +62,22 @@ TEST(LFontBag, AByteOutsideItsRangeRaisesTheOverflowError) {
     }
 }
 
+TEST(LFontBag, IsReadInTheSameOrderUpToWhatCannotBeRead) {
+    const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
+    FilledFont()->WriteProperties(bag);
+    const std::vector<String> names = bag->Names();
+    for (size_t i = 1; i < names.size(); ++i) {  // any text is a name
+        const Ref<ole::PropertyBag> broken = New<ole::PropertyBag>(),
+                                    read = New<ole::PropertyBag>();
+        FilledFont()->WriteProperties(broken);
+        broken->WriteProperty(names[i], "no number");
+        const Ref<LFont> font = New<LFont>();
+        EXPECT_EQ(test::RaisedBy([&] { font->ReadProperties(broken); }), 13);
+        font->WriteProperties(read);
+        EXPECT_EQ(read->Names(), std::vector<String>(names.begin(), names.begin() + i));
+    }
+}
+
 TEST(LFontBag, NoBagRaisesObjectNotSet) {
     EXPECT_EQ(test::RaisedBy([] { New<LFont>()->ReadProperties(nullptr); }), 91);
     EXPECT_EQ(test::RaisedBy([] { New<LFont>()->WriteProperties(nullptr); }), 91);

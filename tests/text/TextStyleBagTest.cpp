@@ -82,6 +82,45 @@ TEST(TextStyleBag, TheFlagsOfTheLastDrawingStayOutOfIt) {
     EXPECT_EQ(style->DTFlags, uint32_t{DT_CENTER});
 }
 
+/// What a new style has taken from the bag of a full one when the value under `key` stopped it.
+Ref<TextStyle> ReadUpTo(const char* key) {
+    const Ref<ole::PropertyBag> bag = BagOf(*FilledStyle(5));
+    bag->WriteProperty(key, "no number");
+    const Ref<TextStyle> style = New<TextStyle>();
+    EXPECT_EQ(test::RaisedBy([&] { style->ReadProperties(bag); }), 13) << key;
+    return style;
+}
+
+TEST(TextStyleBag, TheFormatIsReadAheadOfTheDrawStyle) {
+    EXPECT_THAT(BagOf(*ReadUpTo("FormatFlags"))->Names(),
+                ElementsAre("TextColor", "TextContrast", "TextAlignHorz", "TextAlignVert"));
+    EXPECT_THAT(
+        BagOf(*ReadUpTo("TextStyle"))->Names(),
+        ElementsAre("TextColor", "TextContrast", "TextAlignHorz", "TextAlignVert", "FormatFlags"));
+}
+
+TEST(TextStyleBag, TheShadowIsReadInItsOrder) {
+    using Style = class TextStyle;
+    const struct {
+        const char* key;
+        int32_t Style::*field;
+        int32_t read;
+    } rows[] = {{"ShadowColor", &Style::ShadowColor, 6},
+                {"ShadowThickness", &Style::ShadowThickness, 70},
+                {"ShadowX", &Style::ShadowX, 8},
+                {"ShadowY", &Style::ShadowY, 9},
+                {"ShadowOffsetX", &Style::ShadowOffsetX, 10},
+                {"ShadowOffsetY", &Style::ShadowOffsetY, 11}};
+    const Ref<TextStyle> unread = New<TextStyle>();
+    for (const auto& broken : rows) {
+        const Ref<TextStyle> style = ReadUpTo(broken.key);
+        for (const auto& row : rows) {
+            const int32_t expected = &row < &broken ? row.read : (*unread).*row.field;
+            EXPECT_EQ((*style).*row.field, expected) << row.key << ", without " << broken.key;
+        }
+    }
+}
+
 TEST(TextStyleBag, NoBagRaisesObjectNotSet) {
     EXPECT_EQ(test::RaisedBy([] { New<TextStyle>()->ReadProperties(nullptr); }), 91);
     EXPECT_EQ(test::RaisedBy([] { New<TextStyle>()->WriteProperties(nullptr); }), 91);

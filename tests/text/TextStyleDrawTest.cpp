@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/text/TextCanvas.h"
+#include "tests/text/TextSupport.h"
 #include "vxgui/text/TextStyle.h"
 
 namespace vxgui {
@@ -174,6 +175,31 @@ TEST(TextStyleSpread, WordsGoToTheJustifiedPainterAtTheirTop) {
     }
 }
 
+TEST(TextStyleSpread, TextOfSeveralLinesIsCentredOnceMoreByWhatThePlatformMeasures) {
+    TextCanvas canvas(200, 100);
+    const String text = "letters";
+    const gdi::SIZE size = ExtentOf(canvas, text);
+    const int top = 4 + (92 - size.cy) / 2;
+    for (const int32_t horz : {TextAlignHorzJustify, TextAlignHorzJustifyChar}) {
+        const TextRecorder recorder;
+        const int extra = horz == TextAlignHorzJustifyChar ? (190 - size.cx) / 6 : 0;
+        Draw(canvas, StyleOf(0, horz, TextAlignVertCenter), text, 0);
+        ASSERT_EQ(recorder.calls.size(), 2u);
+        EXPECT_EQ(recorder.calls[0].name, "measure");
+        EXPECT_EQ(recorder.calls[0].extra, extra);
+        ExpectRect(recorder.calls[0].rect, {5, top, 195, 96});
+        gdi::RECT measured{5, top, 195, 96};
+        std::u16string units = text.units();
+        gdi::SetTextCharacterExtra(canvas.dc, extra);
+        gdi::DrawTextW(canvas.dc, units.data(), -1, &measured, recorder.calls[0].flags);
+        gdi::SetTextCharacterExtra(canvas.dc, 0);
+        const int spare = measured.top - measured.bottom - top + 96;
+        const int down = static_cast<int>(std::nearbyint(spare / 2.0));
+        EXPECT_GT(down, 0);
+        EXPECT_EQ(recorder.calls[1].rect.top, top + down);
+    }
+}
+
 struct Step {
     int x, y;
     int32_t color;
@@ -215,6 +241,33 @@ TEST(TextStyleDrawStyle, ThreePaintsTwoDiagonalCopies) {
     ExpectSteps(3, {{-3, -2, kShadow}, {3, 2, kShadow}, {0, 0, kInk}});
 }
 
+TEST(TextStyleDrawStyle, TheCopiesAreJustifiedAsTheTextIs) {
+    const struct {
+        int32_t drawStyle;
+        size_t paints;
+    } rows[] = {{0, 1}, {1, 9}, {2, 9}, {3, 3}};
+    for (const auto& [drawStyle, paints] : rows) {
+        TextCanvas canvas(200, 100);
+        const TextRecorder recorder;
+        Draw(canvas, StyleOf(drawStyle, TextAlignHorzJustify), "two words", DT_SINGLELINE);
+        ASSERT_EQ(recorder.calls.size(), paints);
+        for (const WideCall& call : recorder.calls) {
+            EXPECT_EQ(call.name, "tabbed");
+            EXPECT_EQ(call.width, 190);
+        }
+        const int extra = (190 - ExtentOf(canvas, "two words").cx) / 8;
+        Draw(canvas, StyleOf(drawStyle, TextAlignHorzJustifyChar), "two words", DT_SINGLELINE);
+        ASSERT_EQ(recorder.calls.size(), 2 * paints);
+        for (size_t i = paints; i < 2 * paints; ++i) {
+            EXPECT_EQ(recorder.calls[i].name, "line");
+            EXPECT_EQ(recorder.calls[i].flags, gdi::ETO_CLIPPED);
+            EXPECT_EQ(recorder.calls[i].extra, extra);
+            EXPECT_EQ(recorder.calls[i].rect.left, recorder.calls[i - paints].rect.left);
+            EXPECT_EQ(recorder.calls[i].rect.top, recorder.calls[i - paints].rect.top);
+        }
+    }
+}
+
 TEST(TextStyleDrawStyle, APlainPaintLeavesItsColourInTheContext) {
     for (int32_t drawStyle : {0, 6, -1}) {
         TextCanvas canvas(200, 100);
@@ -252,6 +305,19 @@ TEST(TextStyleDraw, GivesTheFontAndTheModeBack) {
         EXPECT_EQ(gdi::GetBkMode(canvas.dc), gdi::OPAQUE);
         EXPECT_EQ(canvas.Colour(199, 99), 0xFFFFFFu);
     }
+}
+
+TEST(TextStyleDraw, TheStyleKeepsTheFontThatItDrewWithLast) {
+    TextCanvas canvas(200, 100);
+    const Ref<TextStyle> style = StyleOf(0);
+    Ref<LFont> font = New<LFont>();
+    font->Create("DejaVu Sans", -9);
+    const gdi::HFONT handle = font->hFont();
+    style->DrawText(canvas.dc, "text", 0, font, 0, 0, 100, 50);
+    font = nullptr;
+    EXPECT_TRUE(test::IsAlive(handle));
+    Draw(canvas, style, "text", 0);  // with the canvas's font
+    EXPECT_FALSE(test::IsAlive(handle));
 }
 
 TEST(TextStyleDraw, NoFontComesBackAsANewOne) {
