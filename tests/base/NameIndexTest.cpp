@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 
+#include "vxgui/base/AsciiName.h"
 #include "vxgui/base/String.h"
 
 namespace vxgui {
@@ -46,6 +47,18 @@ TEST(CaseFolding, HashesAlikeWhatDiffersInCaseAlone) {
             const auto other = std::u16string_view(lower).substr(from, size);
             ASSERT_TRUE(EqualFolded(one, other));
             ASSERT_EQ(FoldedHash(one), FoldedHash(other)) << from << ", " << size;
+        }
+    }
+}
+
+TEST(IsNamed, IsWhatEqualsNoCaseSays) {
+    const char* const names[] = {"", "Name", "Name7", "Names", "@", "Name."};
+    for (const char* name : names) {
+        for (const char* text : {"", "name", "NAME", "nAme7", "NAMES", "`", "Näme", "namE.", "n"})
+            EXPECT_EQ(IsNamed(String(text).view(), name), String(text).EqualsNoCase(name)) << text;
+        for (uint32_t unit = 0; unit < 0x10000; ++unit) {
+            const String text = name + String(std::u16string(1, static_cast<char16_t>(unit)));
+            ASSERT_EQ(IsNamed(text.view(), "NAMEk"), text.EqualsNoCase("NAMEk")) << unit;
         }
     }
 }

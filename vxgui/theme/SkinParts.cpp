@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "vxgui/base/AsciiName.h"
+
 namespace vxgui {
 namespace {
 
@@ -50,6 +52,12 @@ SkinPart SkinPartOf(std::string_view name) {
     const auto found = std::find_if(std::begin(kParts), std::end(kParts),
                                     [name](const SkinPart& part) { return part.name == name; });
     return found == std::end(kParts) ? SkinPart{"", ""} : *found;
+}
+
+std::optional<SkinPart> FindSkinPart(std::u16string_view name) {
+    const auto found = std::ranges::find_if(
+        kParts, [name](const SkinPart& part) { return IsNamed(name, part.name); });
+    return found == std::end(kParts) ? std::nullopt : std::optional(*found);
 }
 
 }  // namespace vxgui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -16,5 +17,7 @@ struct SkinPart {
 std::span<const SkinPart> SkinParts();
 /// The part of that very name; one without a picture, in the taskbar's file, for any other name.
 SkinPart SkinPartOf(std::string_view name);
+/// The part of that name without regard to case; none for any other name.
+std::optional<SkinPart> FindSkinPart(std::u16string_view name);
 
 }  // namespace vxgui

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "vxgui/base/AsciiName.h"
+
 namespace vxgui::lint {
 namespace {
 
@@ -175,7 +177,7 @@ KeyTable UisTaskbarKeys() { return kUisTaskbar; }
 
 const KeyRule* FindKey(KeyTable table, const String& name) {
     const auto found = std::ranges::find_if(
-        table, [&](const KeyRule& rule) { return name.EqualsNoCase(rule.name); });
+        table, [&](const KeyRule& rule) { return IsNamed(name.view(), rule.name); });
     return found == table.end() ? nullptr : &*found;
 }
 

@@ -13,13 +13,6 @@ namespace {
 constexpr const char* kPoolSections[] = {"Colours", "Fonts", "SystemFonts"};
 constexpr const char* kWhole = "; with one image missing the taskbar skin isn't used at all";
 
-// None for a section of another name.
-std::optional<SkinPart> PartOf(const String& section) {
-    const auto found = std::ranges::find_if(
-        SkinParts(), [&](const SkinPart& part) { return section.EqualsNoCase(part.name); });
-    return found == SkinParts().end() ? std::nullopt : std::optional(*found);
-}
-
 bool NamesPicture(const Page& page, const String& section) {
     return page.Has(section, "Image") || page.Has(section, "GlyphImage");
 }
@@ -42,7 +35,7 @@ public:
         : page_(page), inUis_(inUis), folder_(folder), shelf_(shelf), pools_(pools) {}
 
     void CheckSection(const String& section) {
-        const std::optional<SkinPart> part = PartOf(section);
+        const std::optional<SkinPart> part = FindSkinPart(section.view());
         if (part && part->inUis != inUis_)
             return page_.WarnAt(section, "[" + section + "] is read from the " +
                                              (inUis_ ? "taskbar's file" : "UIS file") +
@@ -156,7 +149,7 @@ bool IsUis(const Page& page) {
 bool IsTaskbar(const Page& page) {
     const std::vector<String> sections = page.File()->SectionNames();
     return std::ranges::any_of(sections, [](const String& section) {
-        const std::optional<SkinPart> part = PartOf(section);
+        const std::optional<SkinPart> part = FindSkinPart(section.view());
         return part && !part->inUis;
     });
 }

@@ -1,7 +1,5 @@
 #include "vxgui/theme/skin/UisItems.h"
 
-#include <algorithm>
-
 #include "vxgui/theme/SkinParts.h"
 #include "vxgui/theme/skin/SkinReport.h"
 
@@ -20,10 +18,7 @@ bool NamesPicture(core7::DefineFile& file, const String& section) {
     return HasKey(file, section, "Image") || HasKey(file, section, "GlyphImage");
 }
 
-bool IsPart(const String& section) {
-    return std::any_of(SkinParts().begin(), SkinParts().end(),
-                       [&](const SkinPart& part) { return section.EqualsNoCase(part.name); });
-}
+bool IsPart(const String& section) { return FindSkinPart(section.view()).has_value(); }
 
 // The dialect has no captions; this one is short enough for nine states side by side.
 const char* const kCaption = "Text";
