@@ -94,6 +94,15 @@ TEST(LFontFromIniFile, TheSectionMayBeNamedByTheFontItself) {
     EXPECT_EQ(font->Weight, 700);
 }
 
+TEST(LFontFromIniFile, ThenTheDrawingStyleComesFromThatSectionToo) {
+    const Ref<LFont> font = New<LFont>();
+    font->Name = "s";
+    font->FromIniFile(test::SectionOf("FontName=Face\nDrawingStyle=1\nTextColor=1,2,3"),
+                      font->Name);
+    ASSERT_NE(font->DrawingStyle, nullptr);
+    EXPECT_EQ(font->DrawingStyle->TextColor, 0x030201);
+}
+
 TEST(LFontFromIniFile, NoFileRaisesObjectNotSet) {
     EXPECT_EQ(test::RaisedBy([] { New<LFont>()->FromIniFile(nullptr, "s"); }), kObjectNotSet);
 }

@@ -14,6 +14,9 @@ public:
         Require(file_, source);
     }
 
+    const Ref<core7::DefineFile>& File() const { return file_; }
+    const String& Name() const { return name_; }
+
     String Text(const char* key, const String& fallback = {}) const {
         return file_->GetString(name_, key, fallback);
     }

@@ -46,7 +46,7 @@ void LFont::FromIniFile(const Ref<core7::DefineFile>& defineFile, const String& 
     DrawingStyle = nullptr;
     if (section.Integer("DrawingStyle") < 1) return;
     DrawingStyle = New<TextStyle>();
-    DrawingStyle->FromIniFile(defineFile, sectionName);
+    DrawingStyle->FromIniFile(section.File(), section.Name());
 } catch (const std::bad_alloc&) {
     RaiseOutOfMemory("LFont.FromIniFile");
 }
