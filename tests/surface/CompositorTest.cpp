@@ -59,6 +59,27 @@ TEST(Compositor, NoBytesAndNoMemoryAreLeftAlone) {
     EXPECT_EQ(pixel, Pixel(1, 2, 3, 4));
 }
 
+// The byte index goes up in fours to the last byte: a pixel that the count cuts is blended whole.
+TEST(Compositor, ACountThatEndsWithinAPixelBlendsThatPixelButDoesNotPremultiplyIt) {
+    const std::vector<ARGB> source(3, Pixel(10, 20, 30, 0));
+    for (int32_t count = 5; count <= 8; ++count) {
+        for (const int32_t alpha : {128, 255}) {
+            for (const bool hasAlpha : {false, true}) {
+                const ARGB old = Pixel(100, 100, 100, 100);
+                const ARGB blended = Blended(source[0], old, alpha, hasAlpha);
+                std::vector<ARGB> target(3, old);
+                AlphaDibBits(source.data(), target.data(), count, alpha, hasAlpha);
+                EXPECT_EQ(target, (std::vector<ARGB>{blended, blended, old})) << count;
+            }
+        }
+        std::vector<ARGB> pixels(3, Pixel(255, 255, 255, 127));
+        PreMultiplyBits(pixels.data(), count);
+        const ARGB second = count < 8 ? Pixel(255, 255, 255, 127) : Pixel(127, 127, 127, 127);
+        EXPECT_EQ(pixels, (std::vector<ARGB>{Pixel(127, 127, 127, 127), second,
+                                             Pixel(255, 255, 255, 127)}));
+    }
+}
+
 TEST(Compositor, PremultipliesByAlphaPlusOneOver256) {
     std::vector<ARGB> pixels{Pixel(255, 128, 255, 127), Pixel(9, 9, 9, 0), Pixel(9, 8, 7, 255)};
     PreMultiplyBits(pixels.data(), 12);

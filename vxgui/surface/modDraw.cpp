@@ -19,9 +19,14 @@ namespace {
 
 constexpr ErrorReporter ReportError{"modDraw"};
 
-/// The whole pixels of a block; a rest of one to three bytes is nobody's pixel.
+/// The whole pixels of a block.
 size_t PixelCount(const void* bits, int32_t bytes) {
     return bits && bytes > 0 ? static_cast<size_t>(bytes) / sizeof(ARGB) : 0;
+}
+
+/// The pixels that begin within a block.
+size_t BegunPixelCount(const void* bits, int32_t bytes) {
+    return bits && bytes > 0 ? (static_cast<size_t>(bytes) - 1) / sizeof(ARGB) + 1 : 0;
 }
 
 /// A rectangle of one context and the one of another that it comes from.
@@ -116,7 +121,8 @@ private:
 
 void AlphaDibBits(const void* src, void* dst, int32_t count, int32_t alpha, bool hasAlpha) {
     ReportError.Guard("Public Function AlphaDibBits", [&] {
-        const size_t pixels = src ? PixelCount(dst, count) : 0;
+        // Unlike premultiplying, on purpose: a pixel that the count cuts is blended whole.
+        const size_t pixels = src ? BegunPixelCount(dst, count) : 0;
         Blend({static_cast<const ARGB*>(src), pixels}, {static_cast<ARGB*>(dst), pixels}, alpha,
               hasAlpha);
     });

@@ -8,14 +8,16 @@
 /// drawing of the whole library depends on its integer arithmetic bit for bit.
 namespace vxgui {
 
-/// Blends `count` bytes of pixels of `src` over `dst`. A constant alpha of 0 or less does
-/// nothing, one over 255 counts as 255. Three formulas, each with its own rounding:
-/// without `hasAlpha`, by the constant alone, and the target keeps its alpha; with it and a
-/// constant under 255, `src` is straight; with it and 255, `src` is premultiplied. The last two
-/// don't meet at the border, as their sources are of different kinds.
+/// Blends the pixels that begin within `count` bytes of `src` over those of `dst`: one that the
+/// count cuts is taken whole. A constant alpha of 0 or less does nothing, one over 255 counts as
+/// 255. Three formulas, each with its own rounding: without `hasAlpha`, by the constant alone, and
+/// the target keeps its alpha; with it and a constant under 255, `src` is straight; with it and
+/// 255, `src` is premultiplied. The last two don't meet at the border, as their sources are of
+/// different kinds.
 void AlphaDibBits(const void* src, void* dst, int32_t count, int32_t alpha, bool hasAlpha);
 
-/// Straight to premultiplied pixels: (c * (a + 1)) / 256, truncated. `count` is in bytes.
+/// Straight to premultiplied pixels: (c * (a + 1)) / 256, truncated. `count` is in bytes; only
+/// whole pixels are taken.
 void PreMultiplyBits(void* bits, int32_t count);
 
 /// Blends a rectangle of one context over one of another by `AlphaDibBits`. Sizes below 1 draw
