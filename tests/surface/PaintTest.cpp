@@ -209,6 +209,30 @@ TEST(SurfaceNineGrid, KeepsCornersAndStretchesTheRest) {
                      "100 218 2 2 10 26 2 2", "102 218 25 2 12 26 5 2", "127 218 3 2 17 26 3 2"}));
 }
 
+TEST(SurfaceNineGrid, EachPieceIsPaintedByTheWholeModeWord) {
+    const struct {
+        uint32_t mode;
+        Calls expected;
+    } cases[] = {{0x1000280, {"ask", "alpha 100 200 3 4 10 20 2 2 128 none"}},
+                 {0x1000180, {"key 100 200 3 4 10 20 2 2 7"}},
+                 {0x1000080, {"copy 100 200 3 4 10 20 2 2"}}};
+    for (const auto& c : cases) {
+        const auto surface = New<RecordingSurface>(1, 1);
+        surface->hasAlpha = false;
+        surface->TransparentColor(7);
+        surface->PaintNineGrid(Grid(3, 4, 2, 2, c.mode, 0, 0, 0, 0));
+        EXPECT_EQ(surface->calls, c.expected);
+    }
+}
+
+TEST(SurfaceNineGrid, PaintsOnTheSurfaceItself) {
+    const auto surface = MakeSurface(4, 1);
+    FillMemory(surface, [](int i) { return Pixel(static_cast<uint8_t>(i), 0, 0, 0); });
+    surface->PaintNineGrid({0, 2, 0, 2, 1, 0, 0, 1, 1, 0x1000000, 0, 0, 0, 0});
+    EXPECT_EQ(MemoryOf(surface), std::vector<ARGB>({Pixel(0, 0, 0, 0), Pixel(1, 0, 0, 0),
+                                                    Pixel(0, 0, 0, 0), Pixel(0, 0, 0, 0)}));
+}
+
 TEST(SurfaceNineGrid, WithoutMarginsThereIsOneCentre) {
     EXPECT_EQ(Pieces(Grid(30, 20, 10, 8, 0, 0, 0, 0, 0)), Calls{"100 200 30 20 10 20 10 8"});
 }

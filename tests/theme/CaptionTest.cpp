@@ -57,6 +57,47 @@ TEST(CaptionSize, WrapsAtTheWidthThatIsGiven) {
     EXPECT_EQ(item->TextHeight(canvas.dc, kCaption, gdi::DT_WORDBREAK, 60, 1), wrapped.bottom);
 }
 
+TEST(CaptionSize, IsThatOfTheFontAndStyleOfTheGivenState) {
+    const Ref<ThemeItem> item = ItemWithStyle(7, 4);
+    const Ref<LFont> large = New<LFont>();
+    large->Create("DejaVu Sans", -40);
+    item->StateFont(E_ItemStatePressed, large);
+    const Ref<TextStyle> pressed = New<TextStyle>();
+    pressed->ShadowX = 100;
+    pressed->ShadowY = 200;
+    item->StateTextStyle(E_ItemStatePressed, pressed);
+    item->State(E_ItemStatePressed);  // which isn't asked
+    TextCanvas canvas(10, 10);
+    const auto measured = [&](const Ref<LFont>& font) {
+        gdi::SelectObject(canvas.dc, font->hFont());
+        gdi::RECT rect{0, 0, 32767, 32767};
+        gdi::DrawTextA(canvas.dc, kCaption, -1, &rect, gdi::DT_SINGLELINE | gdi::DT_CALCRECT);
+        return rect;
+    };
+    const gdi::RECT small = measured(item->GetStateFont(0)), wide = measured(large);
+    const uint32_t flags = gdi::DT_SINGLELINE;
+    EXPECT_EQ(item->TextWidth(canvas.dc, kCaption, flags), small.right + 7);
+    EXPECT_EQ(item->TextHeight(canvas.dc, kCaption, flags), small.bottom + 4);
+    EXPECT_EQ(item->TextWidth(canvas.dc, kCaption, flags, 0, 0, 2), wide.right + 100);
+    EXPECT_EQ(item->TextHeight(canvas.dc, kCaption, flags, 0, 0, 2), wide.bottom + 200);
+    int32_t width = 0, height = 0;
+    item->GetTextWidthHeight(canvas.dc, kCaption, width, height, 0, 0, flags, 2);
+    EXPECT_EQ(width, wide.right + 100);
+    EXPECT_EQ(height, wide.bottom + 200);
+}
+
+TEST(CaptionSize, TheHeightHasNoLimit) {
+    const Ref<ThemeItem> item = ItemWithStyle();
+    TextCanvas canvas(10, 10);
+    // What stands at the bottom is as high as the rectangle that it is measured in.
+    const uint32_t flags = gdi::DT_SINGLELINE | gdi::DT_BOTTOM;
+    int32_t width = 0, height = 0;
+    item->GetTextWidthHeight(canvas.dc, kCaption, width, height, 0, 100, flags);
+    EXPECT_EQ(height, Measured(item, 32767, 100, flags).bottom);
+    EXPECT_EQ(height, 100);
+    EXPECT_EQ(item->TextHeight(canvas.dc, kCaption, flags, 0, 100), 32767);
+}
+
 TEST(CaptionSize, TheWidthHasNoLimit) {
     const Ref<ThemeItem> item = ItemWithStyle();
     TextCanvas canvas(10, 10);
@@ -135,6 +176,41 @@ TEST(Caption, TheDefaultRectangleIsThatOfAFrame) {
     item->DrawText(canvas.dc, kCaption, gdi::DT_SINGLELINE, -1, 10, 20, right, bottom);
     EXPECT_EQ(right, 10 + 40);
     EXPECT_EQ(bottom, 20 + 24);
+}
+
+TEST(Caption, OneEdgeMayBeLeftToItsDefault) {
+    const Ref<ThemeItem> item = ItemWithStyle();
+    item->SetContentMargin(3, 5, 7, 11);
+    const Ref<cAlphaDIBSection> strip = New<cAlphaDIBSection>();
+    strip->Create(120, 24);
+    item->SetImage(strip, 3, 0, Normal);
+    TextCanvas canvas(200, 60);
+    int32_t right = -1, bottom = 50;
+    item->DrawText(canvas.dc, kCaption, gdi::DT_SINGLELINE, -1, 10, 20, right, bottom);
+    EXPECT_EQ(right, 10 + 40 - 7);
+    EXPECT_EQ(bottom, 50 - 11);
+    right = 90, bottom = -1;
+    item->DrawText(canvas.dc, kCaption, gdi::DT_SINGLELINE, -1, 10, 20, right, bottom);
+    EXPECT_EQ(right, 90 - 7);
+    EXPECT_EQ(bottom, 20 + 24 - 11);
+}
+
+TEST(Caption, IsInTheFontOfItsState) {
+    const Ref<ThemeItem> item = ItemWithStyle();
+    const Ref<LFont> large = New<LFont>();
+    large->Create("DejaVu Sans", -40);
+    item->StateFont(E_ItemStatePressed, large);
+    item->State(E_ItemStatePressed);
+    const uint32_t flags = gdi::DT_SINGLELINE;
+    for (const int32_t state : {-1, 2, 0}) {
+        TextCanvas drawn(400, 60), expected(400, 60);
+        int32_t right = 400, bottom = 60;
+        item->DrawText(drawn.dc, kCaption, flags, state, 0, 0, right, bottom);
+        Ref<LFont> font = item->StateFont(state == 0 ? E_ItemStateNormal : E_ItemStatePressed);
+        item->GetStateTextStyle(0)->DrawText(expected.dc, kCaption, flags, font, 0, 0, 400, 60);
+        EXPECT_FALSE(drawn.IsBlank());
+        EXPECT_EQ(drawn.picture.pixels, expected.picture.pixels) << state;
+    }
 }
 
 TEST(Caption, IsInTheStyleOfItsState) {

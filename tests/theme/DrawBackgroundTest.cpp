@@ -56,6 +56,12 @@ TEST(DrawBackground, FramesOutsideTheStripPaintNoImageButTheGlyph) {
     EXPECT_EQ(p.glyph->calls.size(), 3u);
 }
 
+TEST(DrawBackground, FrameNumber255IsAFrameOfAStripThatHasIt) {
+    Painted p(300, 10, 300);
+    p.item->SetImageMargin();
+    EXPECT_THAT(p.Draw(0, 0, 1, 10, 255), ElementsAre("copy 0 0 1 10 255 0 1 10"));
+}
+
 TEST(DrawBackground, WithoutFramesPaintsNoImage) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     const Ref<RecordingSurface> image = New<RecordingSurface>(8, 8);
@@ -368,6 +374,20 @@ TEST(DrawGlyph, PerPixelAsksForAnAlphaChannelAndUsesTheGlyphsAlpha) {
     p.glyph->hasAlpha = false;
     p.Draw(0, 0, 8, 4, 255, 1);
     EXPECT_THAT(p.glyph->calls, ElementsAre("ask", "alpha 0 0 4 4 4 0 4 4 100 none"));
+    EXPECT_THAT(p.glyph->asked, ElementsAre(0, 0, -1, -1));  // the whole strip
+}
+
+TEST(DrawGlyph, ThresholdsOfTheImagesAlphaDoNotApply) {
+    for (const int alpha : {0, 253, 255}) {
+        Painted p(1, 1);
+        p.Glyph(4, 4, 1);
+        p.item->GlyphAlign(Lefttop);
+        p.item->GlyphTransMode(PerPixel);
+        p.item->GlyphAlpha(static_cast<uint8_t>(alpha));
+        p.Draw(0, 0, 4, 4, 255, 0);
+        EXPECT_EQ(p.glyph->calls.back(),
+                  "alpha 0 0 4 4 0 0 4 4 " + std::to_string(alpha) + " channel");
+    }
 }
 
 TEST(DrawGlyph, AlphaActsInPerPixelModeOnly) {
@@ -397,6 +417,8 @@ TEST(DrawGlyph, WithoutACountTakesTheFrameCount) {
     p.item->GlyphAlign(Lefttop);
     p.Draw(0, 0, 4, 4, 255, 3);
     EXPECT_THAT(p.glyph->calls, ElementsAre("copy 0 0 2 2 6 0 2 2"));
+    p.item->FrameCount(9);
+    EXPECT_EQ(p.item->GlyphFrames(), 4);  // and keeps it
 }
 
 TEST(DrawWithOneFrame, SelectsImageAndGlyphByTheSameNumber) {

@@ -125,6 +125,31 @@ TEST(Icon, EdgesOfMinusOneHaveNoDefault) {
     EXPECT_EQ(icon->calls, Calls{"copy -17 -17 16 16 0 0 16 16"});
 }
 
+TEST(Icon, LargerThanItsAreaSticksOutByATruncatedHalf) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->IconAlign(4);
+    item->IconTransMode(3);
+    const Ref<RecordingSurface> icon = New<RecordingSurface>(20, 20);
+    Edges edges{15, 14};
+    Draw(item, icon, edges);
+    EXPECT_EQ(icon->calls, Calls{"copy -2 -3 20 20 0 0 20 20"});
+}
+
+TEST(Icon, FlagsAndStateHaveNoEffect) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->IconTransMode(3);
+    const Ref<RecordingSurface> icon = New<RecordingSurface>(8, 8);
+    for (const uint32_t flags : {0u, 0xFFFFFFFFu}) {
+        for (const int32_t state : {-1, 3, 99}) {
+            icon->calls.clear();
+            int32_t right = 100, bottom = 60;
+            EXPECT_EQ(item->DrawIcon(nullptr, icon, flags, state, 5, 6, right, bottom), 0);
+            EXPECT_EQ(icon->calls, Calls{"copy 5 6 8 8 0 0 8 8"});
+        }
+    }
+    EXPECT_EQ(item->State(), E_ItemStateNormal);
+}
+
 TEST(Icon, TheTransparencyModeChoosesThePainter) {
     const struct {
         int32_t mode;
@@ -150,6 +175,9 @@ TEST(Icon, TheTransparencyModeChoosesThePainter) {
         Draw(item, icon, edges);
         ASSERT_FALSE(icon->calls.empty());
         EXPECT_EQ(icon->calls.back(), painted) << mode;
+        if (icon->calls.size() > 1) {
+            EXPECT_EQ(icon->asked, (std::vector{0, 0, -1, -1}));
+        }
     }
 }
 

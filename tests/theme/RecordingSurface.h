@@ -13,6 +13,7 @@ public:
     RecordingSurface(int32_t width, int32_t height) { Create(width, height); }
 
     std::vector<std::string> calls;
+    std::vector<int32_t> asked;  ///< where it was looked for an alpha channel last
     int premultiplied = 0;
     int keyed = 0;
 
@@ -30,8 +31,9 @@ public:
         Record("alpha", {x, y, w, h, sx, sy, sw, sh},
                " " + std::to_string(alpha) + (channel ? " channel" : " none"));
     }
-    bool HasAlphaChannel(int32_t, int32_t, int32_t, int32_t) override {
+    bool HasAlphaChannel(int32_t left, int32_t top, int32_t right, int32_t bottom) override {
         calls.push_back("ask");
+        asked = {left, top, right, bottom};
         return hasAlpha;
     }
     void PreMultiplyAlpha() override {

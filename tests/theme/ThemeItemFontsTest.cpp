@@ -154,6 +154,18 @@ TEST(StateFontSetter, ReplacesTheStatesEntry) {
     EXPECT_EQ(item->Fonts()->Count(), 1);
 }
 
+TEST(StateFontSetter, OfWhatIsNoStateGoesByItsNumber) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<LFont> font = FontOf(3);
+    const Ref<TextStyle> style = StyleOf(4);
+    item->StateFont(12, font);
+    item->StateTextStyle(-1, style);
+    EXPECT_EQ(item->Fonts()->Item("State_#12"), font);
+    EXPECT_EQ(item->TextStyles()->Item("State_#-1"), style);
+    EXPECT_EQ(item->GetStateFont(12), font);
+    EXPECT_EQ(item->GetStateTextStyle(-1), style);
+}
+
 TEST(StateFontSetter, OfNoneMakesTheCollectionAllTheSame) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->StateFont(E_ItemStateFocus, nullptr);
@@ -260,6 +272,22 @@ TEST(MinimizeFonts, LeavesAnEntryThatNothingIsComparedWith) {
     EXPECT_EQ(item->StateFont(E_ItemStateFocus), nullptr);
 }
 
+TEST(MinimizeFonts, ComparesWithTheOwnersFontWhereThereIsAnOwner) {
+    class OneFontOwner : public ThemeOwner {
+        int32_t Colour(int32_t) override { return -1; }
+        Ref<LFont> Font(int32_t) override { return FontOf(20); }
+    };
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateFont(E_ItemStateNormal, FontOf(10));
+    item->StateFont(E_ItemStatePressed, FontOf(10));
+    item->StateFont(E_ItemStateFocus, FontOf(20));
+    item->Owner(New<OneFontOwner>());
+    item->MinimizeFonts();
+    EXPECT_NE(item->Fonts()->Item("Normal"), nullptr);
+    EXPECT_NE(item->Fonts()->Item("Pressed"), nullptr);
+    EXPECT_EQ(item->Fonts()->Item("Focus"), nullptr);
+}
+
 TEST(MinimizeTextStyles, GoesOverTheStatesUpToGroup) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     for (int32_t state = 0; state <= 8; ++state) {
@@ -270,6 +298,17 @@ TEST(MinimizeTextStyles, GoesOverTheStatesUpToGroup) {
         const bool kept = state == E_ItemStateNormal || state == E_ItemStateFocusMouseOver;
         EXPECT_EQ(item->StateTextStyle(state) != nullptr, kept) << state;
     }
+}
+
+TEST(MinimizeTextStyles, WithoutANormalEntryComparesWithTheSystemColours) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->StateTextStyle(E_ItemStatePressed, StyleOf(kButton));
+    item->StateTextStyle(E_ItemStateDisabled, StyleOf(kGray));
+    item->StateTextStyle(E_ItemStateFocus, StyleOf(kGray));
+    item->MinimizeTextStyles();
+    EXPECT_EQ(item->StateTextStyle(E_ItemStatePressed), nullptr);
+    EXPECT_EQ(item->StateTextStyle(E_ItemStateDisabled), nullptr);
+    EXPECT_NE(item->StateTextStyle(E_ItemStateFocus), nullptr);
 }
 
 TEST(MinimizeTextStyles, DropsADisabledEntryThatIsTheNormalObjectItself) {

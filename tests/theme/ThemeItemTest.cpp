@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/theme/RecordingSurface.h"
+#include "tests/theme/StoredItems.h"
 
 namespace vxgui {
 namespace {
@@ -125,6 +126,8 @@ TEST(TileProperty, SixteenLeavesTileNoughtAndSetsTileLeft) {
     item->Tile(16);
     EXPECT_EQ(item->Tile(), 0);
     EXPECT_EQ(item->TileLeft(), -1);
+    item->Tile(3);  // which clears the low four bits alone
+    EXPECT_EQ(item->ImageFlags(), 0x13u);
 }
 
 TEST(TransModeProperty, PerPixelPremultipliesTheImageOnce) {
@@ -172,6 +175,7 @@ TEST(SetImage, TurnsAKeyWithPartialOpacityIntoAlpha) {
     const Ref<ThemeItem> item = New<ThemeItem>();
     item->SetImage(surface, 2, 1, Trans, 252, 0x0000FF);
     EXPECT_EQ(surface->keyed, 1);
+    EXPECT_EQ(surface->premultiplied, 1);
     EXPECT_EQ(item->TransMode(), PerPixel);
     EXPECT_EQ(surface->TransparentColor(), 0x0000FF);
     EXPECT_EQ(item->FrameCount(), 2);
@@ -220,6 +224,36 @@ TEST(SetImagePicture, WithoutAPictureLeavesNoImage) {
     item->SetImagePicture(nullptr, 3, 0, Normal);
     EXPECT_EQ(item->Image(), nullptr);
     EXPECT_EQ(item->FrameCount(), 3);
+}
+
+TEST(SetImagePicture, MakesASurfaceOfThePicture) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    const Ref<ole::Picture> picture = test::SurfaceOf(6, 4)->Picture();
+    item->SetImagePicture(picture, 2, 1, Trans, 254, 0x123456);
+    ASSERT_NE(item->Image(), nullptr);
+    EXPECT_EQ(item->Image()->Width(), 6);
+    EXPECT_EQ(item->Image()->Height(), 4);
+    EXPECT_EQ(item->Image()->TransparentColor(), 0x123456);
+    EXPECT_EQ(item->FrameCount(), 2);
+    EXPECT_EQ(item->FrameVert(), -1);
+    EXPECT_EQ(item->TransMode(), Trans);
+    EXPECT_EQ(item->ImageAlpha(), 254);
+    item->SetImagePicture(picture, 2, 0, Normal);
+    EXPECT_EQ(item->ImageAlpha(), 255);
+    EXPECT_EQ(item->Image()->TransparentColor(), DefaultTransColor);
+}
+
+TEST(SetGlyphImagePicture, MakesASurfaceOfThePicture) {
+    const Ref<ThemeItem> item = New<ThemeItem>();
+    item->FrameCount(3);
+    item->GlyphAlign(RightBottom);
+    item->SetGlyphImagePicture(test::SurfaceOf(6, 4)->Picture(), 0, PerPixel);
+    ASSERT_NE(item->Glyph(), nullptr);
+    EXPECT_EQ(item->Glyph()->Width(), 6);
+    EXPECT_EQ(item->Glyph()->Flags() >> 31, 1u);  // premultiplied
+    EXPECT_EQ(item->GlyphFrames(), 3);
+    EXPECT_EQ(item->GlyphTransMode(), PerPixel);
+    EXPECT_EQ(item->GlyphAlign(), LeftCenter);
 }
 
 TEST(SetGlyph, ConvertsNoKeyAndTakesTheFrameCount) {
