@@ -72,9 +72,9 @@ Ref<ole::StdFont> GpFont::StdFont() {
 }
 
 Ref<GpFontFamily> GpFont::FontFamily() {
+    Ref<GpFontFamily> family = New<GpFontFamily>();  // first: without it the handle would stay
     gdiplus::GpFontFamily* made = nullptr;
     Check(flat::GdipGetFamily(handle_, &made));
-    Ref<GpFontFamily> family = New<GpFontFamily>();
     family->SetHandle(made, true);
     return family;
 }

@@ -1,5 +1,6 @@
 #include "vxgui/text/GpString.h"
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Require.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/colour/modColours.h"
@@ -66,12 +67,14 @@ void GpString::Render(GpGraphics& graphics, const String& text, const Ref<GpBrus
                         Require(brush, kSource).Handle(), mFont->Handle());
 }
 
-void GpString::SetText(const String& Text) {
+void GpString::SetText(const String& Text) try {
     const KeepAlive keep(this);
     const Ref<GpGraphics> graphics = New<GpGraphics>();
     graphics->FromHDC(mMemDC);
     if (MeasureText(*graphics, Text) && RenderSurface(*graphics, Text))
         RenderBitmap(*graphics, Text);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("GpString.SetText");
 }
 
 bool GpString::RenderSurface(GpGraphics& graphics, const String& text) {

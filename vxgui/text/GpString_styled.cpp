@@ -1,5 +1,6 @@
 #include <span>
 
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/base/Rounding.h"
 #include "vxgui/frame/modVxCoreHlp.h"
 #include "vxgui/gdip/GpGraphics.h"
@@ -38,7 +39,7 @@ void BlurBitmap(class GpBitmap& bitmap, int32_t width, int32_t height, int32_t r
 
 }  // namespace
 
-void GpString::DrawStyled(gdi::HDC hDC, const String& Text, uint32_t Format) {
+void GpString::DrawStyled(gdi::HDC hDC, const String& Text, uint32_t Format) try {
     const KeepAlive keep(this);
     const ScopedBkMode transparent(hDC, gdi::TRANSPARENT);
     const COLORREF oldColor = gdi::SetTextColor(hDC, static_cast<COLORREF>(mTextRGB));
@@ -47,6 +48,8 @@ void GpString::DrawStyled(gdi::HDC hDC, const String& Text, uint32_t Format) {
     const bool painter = mStyle >= 4 && mStyle <= 6;
     if (!painter) gdi::SetTextColor(hDC, oldColor);
     if (mFont) gdi::SelectObject(hDC, nullptr);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("GpString.DrawStyled");
 }
 
 void GpString::PaintByStyle(gdi::HDC hDC, const String& text, uint32_t format) {

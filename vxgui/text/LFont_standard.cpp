@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "vxgui/base/Error.h"
+#include "vxgui/base/OutOfMemory.h"
 #include "vxgui/platform/gdi_surfaces.h"
 #include "vxgui/platform/kernel.h"
 #include "vxgui/text/LFont.h"
@@ -31,7 +32,7 @@ constexpr int32_t kRegularWeight = 400;
 
 }  // namespace
 
-void LFont::FromLogFont(const gdi::LOGFONTA& font) {
+void LFont::FromLogFont(const gdi::LOGFONTA& font) try {
     const KeepAlive keep(this);
     Dispose();
     Height = font.lfHeight;
@@ -49,15 +50,19 @@ void LFont::FromLogFont(const gdi::LOGFONTA& font) {
     PitchAndFamily = font.lfPitchAndFamily;
     const size_t length = strnlen(font.lfFaceName, sizeof font.lfFaceName);
     Name = kernel::TextFromAnsi(std::string_view(font.lfFaceName, length));
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.FromLogFont");
 }
 
-void LFont::FromStdFont(const Ref<ole::StdFont>& font, uint8_t quality) {
+void LFont::FromStdFont(const Ref<ole::StdFont>& font, uint8_t quality) try {
     const KeepAlive keep(this);
     if (!font) return DefaultGuiFont(quality);
     gdi::LOGFONTA record{};
     gdi::GetObjectA(font->hFont(), sizeof record, &record);
     record.lfQuality = quality;
     FromLogFont(record);
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.FromStdFont");
 }
 
 void LFont::DefaultGuiFont(uint8_t quality) {
@@ -68,7 +73,7 @@ void LFont::DefaultGuiFont(uint8_t quality) {
     FromLogFont(record);
 }
 
-Ref<ole::StdFont> LFont::StdFont() {
+Ref<ole::StdFont> LFont::StdFont() try {
     const KeepAlive keep(this);
     Ref<ole::StdFont> font = New<ole::StdFont>();
     TrySet([&] { font->Name(Name); });
@@ -83,6 +88,8 @@ Ref<ole::StdFont> LFont::StdFont() {
     watched_ = font;
     font->Watch([this](const String& propertyName) { Follow(propertyName); });
     return font;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("LFont.StdFont");
 }
 
 void LFont::Follow(const String& propertyName) {
