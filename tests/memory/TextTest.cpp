@@ -78,6 +78,12 @@ TEST_F(TextWithoutMemory, ThePaintersDraw) {
     });
 }
 
+TEST_F(TextWithoutMemory, AnOutlineIsDrawn) {
+    const Ref<GpGraphics> graphics = New<GpGraphics>();
+    graphics->FromHDC(dc_);
+    FailInOrder([&] { Global().DrawOutLineText(graphics, text_, 5, 5); });
+}
+
 TEST_F(TextWithoutMemory, AShadowOfTheFlatLayerIsDrawn) {
     const Ref<GpGraphics> graphics = New<GpGraphics>();
     graphics->FromHDC(dc_);

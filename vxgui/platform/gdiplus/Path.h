@@ -18,9 +18,15 @@ struct PathPoints {
     BYTE Kind(size_t index) const { return types[index] & PathPointTypePathTypeMask; }
     bool Closes(size_t index) const { return (types[index] & PathPointTypeCloseSubpath) != 0; }
     bool EndsClosed() const { return !IsEmpty() && Closes(Count() - 1); }
+    /// When memory runs out the lists stay of one length.
     void Add(GpPointF point, int type) {
-        points.push_back(point);
         types.push_back(static_cast<BYTE>(type));
+        try {
+            points.push_back(point);
+        } catch (...) {
+            types.pop_back();
+            throw;
+        }
     }
     void Transform(const Affine& matrix) {
         for (GpPointF& point : points) point = matrix.Apply(point);
