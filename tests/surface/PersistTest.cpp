@@ -354,6 +354,17 @@ TEST(SurfaceBag, WithCompressionTheArrayAloneIsStored) {
     EXPECT_TRUE(ReadBack(bag)->Equal(surface));
 }
 
+TEST(SurfaceBag, ASurfaceStoredInItsOwnRightIsCompressed) {
+    const auto surface = MakeCountedSurface(4, 3);
+    const auto bag = New<ole::PropertyBag>(), inner = New<ole::PropertyBag>();
+    bag->WriteProperty("surface", surface);
+    surface->WriteProperties(inner, 1);
+    EXPECT_EQ(bag->ReadProperty("surface"), Variant(inner->Contents()));
+    const auto other = New<cAlphaDIBSection>();
+    EXPECT_TRUE(bag->RestoreProperty("surface", *other));
+    EXPECT_TRUE(other->Equal(surface));
+}
+
 TEST(SurfaceBag, APlainArrayWithoutTheCompressedKeyIsReadAsPlain) {
     const auto surface = MakeSample();
     const auto bag = New<ole::PropertyBag>();

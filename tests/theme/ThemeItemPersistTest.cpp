@@ -613,5 +613,15 @@ TEST(ItemRectangle, IsFourKeysInOrderWithoutThoseOfNought) {
     EXPECT_THAT((std::vector{rc.left, rc.top, rc.right, rc.bottom}), ElementsAre(0, 2, 0, 0));
 }
 
+TEST(ItemInABag, IsStoredLikeAnyValue) {
+    const Ref<ThemeItem> item = New<ThemeItem>(), other = New<ThemeItem>();
+    item->SetImage(SurfaceOf(6, 2), 3, 0, Trans);
+    const Ref<ole::PropertyBag> bag = New<ole::PropertyBag>();
+    bag->WriteProperty("item", item);
+    EXPECT_EQ(bag->ReadProperty("item"), Variant(Written(item)->Contents()));
+    EXPECT_TRUE(bag->RestoreProperty("item", *other));
+    EXPECT_EQ(Written(other)->Contents(), Written(item)->Contents());
+}
+
 }  // namespace
 }  // namespace vxgui

@@ -95,6 +95,19 @@ private:
     Watcher watcher_;
 };
 
+class PropertyBag;
+
+/// What an object is that a bag can keep: it writes itself into a bag of its own, and reads itself
+/// from that.
+class VXPLATFORM_API Persistent {
+public:
+    virtual void SaveTo(const Ref<PropertyBag>& bag) = 0;
+    virtual void RestoreFrom(const Ref<PropertyBag>& bag) = 0;
+
+protected:
+    ~Persistent() = default;
+};
+
 /// An ordered name-to-value store. Values are Boolean, 32-bit integer, float of either width, text
 /// or byte array. Names are compared without regard to case.
 class VXPLATFORM_API PropertyBag : public Object {
@@ -104,8 +117,12 @@ public:
     /// The value under `name`, or `fallback` when there is none.
     Variant ReadProperty(const String& name, const Variant& fallback = {}) const;
     /// Stores the value; one that equals `fallback` is not stored, and takes an older one away.
-    /// Replacing a value keeps its place. Raises the type mismatch for a value of another kind.
+    /// Replacing a value keeps its place. An object that is `Persistent` is saved in a bag of its own,
+    /// whose contents are the value. Raises the type mismatch for a value of another kind.
     void WriteProperty(const String& name, const Variant& value, const Variant& fallback = {});
+    /// Has an object read itself from the bag that was stored for it. False, and the object stays,
+    /// when no bytes stand under the name; raises when those are no bag's contents.
+    bool RestoreProperty(const String& name, Persistent& object) const;
     bool Has(const String& name) const;
     /// The names in their order.
     std::vector<String> Names() const;

@@ -36,7 +36,7 @@ enum AlphaDIBSectionConst : int32_t {
 /// business. Booleans are false on failure; an empty surface answers 0 and draws nothing.
 ///
 /// Operations are virtual, so that one object can stand in for another.
-class VXGUI_API cAlphaDIBSection : public Object {
+class VXGUI_API cAlphaDIBSection : public Object, public ole::Persistent {
 public:
     /// Bits of `Flags`; a re-created surface starts from the first two set.
     static constexpr uint32_t kUseDrawDib = 1;
@@ -177,6 +177,9 @@ public:
     virtual void ReadProperties(const Ref<ole::PropertyBag>& PropBag);
     /// Bit 0 of `Flags` compresses.
     virtual void WriteProperties(const Ref<ole::PropertyBag>& PropBag, int32_t Flags = 0);
+    // A surface that is stored in its own right is compressed.
+    void SaveTo(const Ref<ole::PropertyBag>& bag) override { WriteProperties(bag, 1); }
+    void RestoreFrom(const Ref<ole::PropertyBag>& bag) override { ReadProperties(bag); }
     /// A BMP file in memory; false, and the array stays, for a surface without pixels.
     virtual bool SaveToByteArray(ByteArray& ByteArray);
     /// Writes a BMP file. Raises when it can't be created; a failed write gives false and leaves

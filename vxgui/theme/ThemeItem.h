@@ -32,7 +32,7 @@ using UisSource = std::variant<String, kernel::HMODULE>;
 /// style and a colour. The host sets `State` and calls the drawing operations.
 ///
 /// Images are shared, never copied. Sizes are pixels.
-class VXGUI_API ThemeItem : public Object {
+class VXGUI_API ThemeItem : public Object, public ole::Persistent {
 public:
     ThemeItem();
 
@@ -242,7 +242,9 @@ public:
     /// A bag of an unknown version leaves the item as it is. A number that is none raises, with
     /// the item partly read; an image, font or style that can't be read is left out.
     void ReadProperties(const Ref<ole::PropertyBag>& PropBag);
-    /// The same for a bag of any version, without the direction that the first had in common for
+    void SaveTo(const Ref<ole::PropertyBag>& bag) override { WriteProperties(bag); }
+    void RestoreFrom(const Ref<ole::PropertyBag>& bag) override { ReadProperties(bag); }
+    /// `ReadProperties` for a bag of any version, without the direction that the first had in common for
     /// both strips.
     void ReadProperties_v1(const Ref<ole::PropertyBag>& PropBag);
     /// Four keys that begin with `Name`.

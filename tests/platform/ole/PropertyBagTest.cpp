@@ -26,6 +26,38 @@ TEST(PropertyBagTest, EachKindOfValueIsKept) {
     EXPECT_EQ(bag->ReadProperty("bytes"), Variant(ByteArray{0, 255, 0}));
 }
 
+/// Keeps one number.
+struct Counter : Object, Persistent {
+    void SaveTo(const Ref<PropertyBag>& bag) override { bag->WriteProperty("Count", count); }
+    void RestoreFrom(const Ref<PropertyBag>& bag) override {
+        count = *bag->ReadProperty("Count", 0).As<int32_t>();
+    }
+    int32_t count = 0;
+};
+
+TEST(PropertyBagTest, AnObjectIsKeptByTheContentsOfABagOfItsOwn) {
+    const auto bag = New<PropertyBag>(), inner = New<PropertyBag>();
+    const auto counter = New<Counter>(), other = New<Counter>();
+    counter->count = 42;
+    bag->WriteProperty("object", counter);
+    inner->WriteProperty("Count", 42);
+    EXPECT_EQ(bag->ReadProperty("object"), Variant(inner->Contents()));
+    EXPECT_TRUE(bag->RestoreProperty("object", *other));
+    EXPECT_EQ(other->count, 42);
+}
+
+TEST(PropertyBagTest, WhatIsNoStoredObjectLeavesTheObject) {
+    const auto bag = New<PropertyBag>();
+    const auto counter = New<Counter>();
+    counter->count = 7;
+    bag->WriteProperty("number", 1);
+    bag->WriteProperty("damaged", ByteArray{1, 2, 3});
+    EXPECT_FALSE(bag->RestoreProperty("none", *counter));
+    EXPECT_FALSE(bag->RestoreProperty("number", *counter));
+    EXPECT_THROW(bag->RestoreProperty("damaged", *counter), Error);
+    EXPECT_EQ(counter->count, 7);
+}
+
 TEST(PropertyBagTest, WhatIsMissingReadsAsTheDefault) {
     const auto bag = New<PropertyBag>();
     EXPECT_EQ(bag->ReadProperty("none", 7), Variant(7));

@@ -8,11 +8,22 @@
 namespace vxgui::ole {
 namespace {
 
+[[noreturn]] void RaiseMismatch() {
+    throw Error(ErrorNumber::TypeMismatch, "PropertyBag.WriteProperty", "Type mismatch");
+}
+
 struct ToBagValue {
+    BagValue operator()(const Ref<Object>& object) const {
+        auto* const persistent = dynamic_cast<Persistent*>(object.get());
+        if (!persistent) RaiseMismatch();
+        const auto inner = New<PropertyBag>();
+        persistent->SaveTo(inner);
+        return inner->Contents();
+    }
     template <class T>
     BagValue operator()(const T& value) const {
         if constexpr (std::is_constructible_v<BagValue, std::in_place_type_t<T>, T>) return value;
-        throw Error(ErrorNumber::TypeMismatch, "PropertyBag.WriteProperty", "Type mismatch");
+        RaiseMismatch();
     }
 };
 
@@ -77,6 +88,18 @@ void PropertyBag::WriteProperty(const String& name, const Variant& value, const 
     store_->Set(name, std::visit(ToBagValue(), value.storage()));
 } catch (const std::bad_alloc&) {
     RaiseOutOfMemory("PropertyBag.WriteProperty");
+}
+
+bool PropertyBag::RestoreProperty(const String& name, Persistent& object) const try {
+    const Variant value = ReadProperty(name);
+    const auto* const contents = value.As<ByteArray>();
+    if (!contents) return false;
+    const auto inner = New<PropertyBag>();
+    inner->Contents(*contents);
+    object.RestoreFrom(inner);
+    return true;
+} catch (const std::bad_alloc&) {
+    RaiseOutOfMemory("PropertyBag.RestoreProperty");
 }
 
 bool PropertyBag::Has(const String& name) const { return store_->Find(name) != nullptr; }
