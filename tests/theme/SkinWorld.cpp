@@ -1,5 +1,7 @@
 #include "tests/theme/SkinWorld.h"
 
+#include "vxgui/frame/modUtilities.h"
+
 namespace vxgui::test {
 namespace {
 
@@ -92,6 +94,7 @@ int32_t WorldThemeName(char16_t* file, int fileLength, char16_t* colour, int col
 }  // namespace
 
 SkinWorld::SkinWorld() : before_(gServices) {
+    SetUpApartment();  // not by the first object, which would leave its traces among the calls
     gWorld = this;
     kernelBefore_ = kernel::SetKernel(&kernel);
     static const Ref<WorldPaths> paths = New<WorldPaths>();
