@@ -5,6 +5,10 @@
 #include "vxgui/pixels/Multiversion.h"
 #include "vxgui/pixels/Steps.h"
 
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
 namespace vxgui {
 
 using namespace steps;
@@ -126,7 +130,47 @@ VXGUI_MULTIVERSION(size_t, CopyOpaqueRun, (const ARGB* source, ARGB* target, siz
     return CopyOpaqueRun(source, target, count);
 }
 
-VXGUI_MULTIVERSION(void, PremultipliedLoop, (const ARGB* source, ARGB* target, size_t count)) {
+#if defined(__x86_64__)
+
+/// `OverStep` in ten operations: a permutation of bytes and a sum that stays at 255, which
+/// compilers make of six.
+VXGUI_TARGET_AVX512 inline __m512i OverBytes(__m512i source, __m512i target) {
+    const __m512i alphasInBothHalves =
+        _mm512_set4_epi32(static_cast<int>(0x800F800F), static_cast<int>(0x800B800B),
+                          static_cast<int>(0x80078007), static_cast<int>(0x80038003));
+    const __m512i upper = _mm512_set1_epi16(static_cast<int16_t>(kUpper));
+    const __m512i rest =
+        _mm512_sub_epi16(_mm512_set1_epi16(256), _mm512_shuffle_epi8(source, alphasInBothHalves));
+    const __m512i low = _mm512_mullo_epi16(_mm512_and_si512(target, _mm512_set1_epi16(0xFF)), rest);
+    const __m512i high = _mm512_mullo_epi16(_mm512_srli_epi16(target, 8), rest);
+    const __m512i under = _mm512_or_si512(_mm512_srli_epi16(low, 8), _mm512_and_si512(high, upper));
+    return _mm512_adds_epu8(source, under);
+}
+
+VXGUI_TARGET_AVX512 void PremultipliedWide(const ARGB* source, ARGB* target, size_t count) {
+    for (size_t i = 0; i < count;) {
+        if (const size_t done = SkipRun(source + i, target + i, count - i)) {
+            i += done;
+            continue;
+        }
+        const size_t end = std::min(i + kBlock, count);
+        for (; i + kPixels <= end; i += kPixels) {
+            _mm512_storeu_si512(target + i, OverBytes(_mm512_loadu_si512(source + i),
+                                                      _mm512_loadu_si512(target + i)));
+        }
+        if (i == end) continue;
+        const auto rest = static_cast<__mmask16>((1u << (end - i)) - 1);
+        _mm512_mask_storeu_epi32(target + i, rest,
+                                 OverBytes(_mm512_maskz_loadu_epi32(rest, source + i),
+                                           _mm512_maskz_loadu_epi32(rest, target + i)));
+        i = end;
+    }
+}
+
+#endif
+
+VXGUI_MULTIVERSION_BESIDE(PremultipliedWide, void, PremultipliedLoop,
+                          (const ARGB* source, ARGB* target, size_t count)) {
     ForEachUnlessSkipped(source, target, count, OverStep, SkipRun);
 }
 
